@@ -1,0 +1,26 @@
+# Flags live on two INTERFACE targets, so that what is generated (moc, D-Bus proxies) can leave them out.
+add_library(aerolith_warnings INTERFACE)
+target_compile_options(aerolith_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+target_compile_definitions(aerolith_warnings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
+
+set(AEROLITH_SANITIZE "" CACHE STRING "Sanitizers to build with, as given to -fsanitize=")
+if(AEROLITH_SANITIZE)
+    add_compile_options(-fsanitize=${AEROLITH_SANITIZE} -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${AEROLITH_SANITIZE})
+    if(AEROLITH_SANITIZE MATCHES undefined)
+        add_compile_options(-fno-sanitize-recover=undefined)
+    endif()
+endif()
+
+option(AEROLITH_COVERAGE "Measure line coverage with gcov" OFF)
+if(AEROLITH_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
