@@ -2,8 +2,10 @@
 
 namespace aerolith {
 
-/// Whether the user lets the program learn what networks are around: names and addresses are withheld without it.
-enum class CLAuthorizationStatus {
+/// Whether the user lets the program learn what networks are around: names and addresses are withheld without
+/// it.
+enum class CLAuthorizationStatus
+{
     notDetermined = 0,
     restricted = 1,
     denied = 2,
@@ -18,8 +20,8 @@ class CLLocationManagerDelegate
 public:
     virtual ~CLLocationManagerDelegate() = default;
 
-    /// Main thread: once after the delegate is attached, on a later turn of the main queue, and again after every
-    /// change of the authorization.
+    /// Main thread: once after the delegate is attached, on a later turn of the main queue, and again after
+    /// every change of the authorization.
     virtual void locationManagerDidChangeAuthorization(CLLocationManager& manager) = 0;
 };
 

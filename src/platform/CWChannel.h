@@ -5,7 +5,14 @@
 namespace aerolith {
 
 /// The platform's channel-width codes. A number of MHz beyond these is `unknown`.
-enum class CWChannelWidth { unknown = 0, mhz20 = 1, mhz40 = 2, mhz80 = 3, mhz160 = 4 };
+enum class CWChannelWidth
+{
+    unknown = 0,
+    mhz20 = 1,
+    mhz40 = 2,
+    mhz80 = 3,
+    mhz160 = 4
+};
 
 /// One channel: of a scan result, or one that the interface supports.
 struct CWChannel

@@ -11,7 +11,8 @@
 namespace aerolith {
 
 /// The platform's security codes. Several may hold for one access point.
-enum class CWSecurity {
+enum class CWSecurity
+{
     none = 0,
     wep = 1,
     wpaPersonal = 2,
@@ -30,7 +31,15 @@ enum class CWSecurity {
 };
 
 /// The platform's PHY-mode codes.
-enum class CWPHYMode { dot11a = 1, dot11b = 2, dot11g = 3, dot11n = 4, dot11ac = 5, dot11ax = 6 };
+enum class CWPHYMode
+{
+    dot11a = 1,
+    dot11b = 2,
+    dot11g = 3,
+    dot11n = 4,
+    dot11ac = 5,
+    dot11ax = 6
+};
 
 /// The codes for which a question is answered with yes. Codes outside 0 to 63 are never in the set.
 class CodeSet
@@ -64,7 +73,8 @@ struct CWNetwork
 {
     /// The access point's hardware address in lower-case hexadecimal with colons; absent when withheld.
     std::optional<QString> bssid;
-    /// The network name for display; absent when withheld or hidden. Bytes that are not UTF-8 stand as U+FFFD.
+    /// The network name for display; absent when withheld or hidden. Bytes that are not UTF-8 stand as
+    /// U+FFFD.
     std::optional<QString> ssid;
     /// The network name as sent, 0 to 32 bytes; what a join or a directed scan needs. Empty when withheld.
     QByteArray ssidData;
@@ -82,7 +92,10 @@ struct CWNetwork
 
     [[nodiscard]] bool supportsSecurity(int code) const { return securityCodes.contains(code); }
 
-    [[nodiscard]] bool supportsSecurity(CWSecurity code) const { return supportsSecurity(static_cast<int>(code)); }
+    [[nodiscard]] bool supportsSecurity(CWSecurity code) const
+    {
+        return supportsSecurity(static_cast<int>(code));
+    }
 
     [[nodiscard]] bool supportsPHYMode(int code) const { return phyModeCodes.contains(code); }
 

@@ -13,8 +13,8 @@ public:
     Log& operator=(const Log&) = delete;
     virtual ~Log() = default;
 
-    /// Writes one line, without time stamp or level. The text may hold names from the air: characters that would
-    /// break or forge a line are written as escapes.
+    /// Writes one line, without time stamp or level. The text may hold names from the air: characters that
+    /// would break or forge a line are written as escapes.
     virtual void line(const QString& text) = 0;
 };
 

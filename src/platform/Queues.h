@@ -21,8 +21,8 @@ public:
     virtual ~RepeatingTimer() = default;
 };
 
-/// The main thread's queue of tasks. Tasks run on the main thread, one after the other, each on a later turn than
-/// the call that posted it; tasks posted by async() run in the order of their posting.
+/// The main thread's queue of tasks. Tasks run on the main thread, one after the other, each on a later turn
+/// than the call that posted it; tasks posted by async() run in the order of their posting.
 class MainQueue
 {
 public:
@@ -37,13 +37,13 @@ public:
     /// Runs the task once, no sooner than `delay` from now. Main thread.
     virtual void asyncAfter(Seconds delay, Task task) = 0;
 
-    /// Runs the task every `interval` (above 0), the first time one interval from now. A tick that is missed while
-    /// the main thread is busy is not made up for. Main thread.
+    /// Runs the task every `interval` (above 0), the first time one interval from now. A tick that is missed
+    /// while the main thread is busy is not made up for. Main thread.
     [[nodiscard]] virtual std::unique_ptr<RepeatingTimer> scheduledTimer(Seconds interval, Task task) = 0;
 };
 
-/// Runs tasks one at a time in the order of their posting, on a thread that is not the main thread. Destroying it
-/// waits for the task that is running and drops those that have not begun.
+/// Runs tasks one at a time in the order of their posting, on a thread that is not the main thread.
+/// Destroying it waits for the task that is running and drops those that have not begun.
 class SerialQueue
 {
 public:

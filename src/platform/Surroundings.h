@@ -6,11 +6,12 @@
 #include "platform/Log.h"
 #include "platform/Queues.h"
 #include "platform/UserDefaults.h"
+#include "platform/UserLocale.h"
 
 namespace aerolith {
 
-/// What the scan engine asks of its surroundings, plugged in once by the program that is built around it. All of it
-/// outlives the engine.
+/// What the scan engine asks of its surroundings, plugged in once by the program that is built around it. All
+/// of it outlives the engine.
 struct Surroundings
 {
     CWWiFiClient& wifiClient;
@@ -20,6 +21,7 @@ struct Surroundings
     MakeSerialQueue makeSerialQueue;
     Clock& clock;
     Log& log;
+    UserLocale locale;
 };
 
 } // namespace aerolith

@@ -7,9 +7,9 @@
 
 namespace aerolith {
 
-/// The persisted settings, by key. Any thread. A value that is missing, or stored in a form that cannot be read as
-/// what is asked for, is absent. A write is in force at once for every later read; a write that cannot reach the
-/// disk is logged and otherwise kept for the rest of the run.
+/// The persisted settings, by key. Any thread. A value that is missing, or stored in a form that cannot be
+/// read as what is asked for, is absent. A write is in force at once for every later read; a write that
+/// cannot reach the disk is logged and otherwise kept for the rest of the run.
 class UserDefaults
 {
 public:

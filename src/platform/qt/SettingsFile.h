@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/Log.h"
+#include "platform/UserDefaults.h"
+
+#include <QHash>
+#include <QSettings>
+#include <QVariant>
+
+#include <mutex>
+
+namespace aerolith {
+
+/// The user defaults in an INI file in the format of Qt's settings class. The file is read once and written,
+/// as a whole and in one step, at every change.
+class SettingsFile : public UserDefaults
+{
+public:
+    /// A file that is not there is no settings; one that cannot be read or is malformed is logged, and what
+    /// could be read of it counts.
+    SettingsFile(const QString& path, Log& log);
+
+    /// The user's own: $XDG_CONFIG_HOME/aerolith/aerolith.conf, in ~/.config when the variable is unset.
+    [[nodiscard]] static QString userPath();
+
+    [[nodiscard]] std::optional<double> doubleForKey(const QString& key) const override;
+    [[nodiscard]] std::optional<qint64> integerForKey(const QString& key) const override;
+    [[nodiscard]] std::optional<QByteArray> dataForKey(const QString& key) const override;
+
+    void setDouble(double value, const QString& key) override { store(key, value); }
+
+    void setInteger(qint64 value, const QString& key) override { store(key, value); }
+
+    void setData(const QByteArray& value, const QString& key) override { store(key, value); }
+
+private:
+    [[nodiscard]] QVariant stored(const QString& key) const;
+    void store(const QString& key, const QVariant& value);
+    void logStatus(const QString& action);
+
+    mutable std::mutex m_mutex;
+    QSettings m_file;
+    /// What the file holds or, where it could not be written, should hold: reads come from here.
+    QHash<QString, QVariant> m_values;
+    Log& m_log;
+};
+
+} // namespace aerolith
