@@ -1,0 +1,62 @@
+#pragma once
+
+#include "model/WiFiScanner.h"
+#include "support/FakeWiFi.h"
+#include "support/ManualMainQueue.h"
+#include "support/ManualSerialQueue.h"
+#include "support/MemoryDefaults.h"
+#include "support/RecordingLog.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace aerolith {
+
+/// The scan engine on surroundings that the test drives.
+class Engine
+{
+public:
+    explicit Engine(CLAuthorizationStatus initial = CLAuthorizationStatus::authorizedWhenInUse)
+    {
+        location.setInitial(initial);
+        scanner.emplace(selection, Surroundings{.wifiClient = wifi,
+                                                .locationManager = location,
+                                                .userDefaults = defaults,
+                                                .mainQueue = main,
+                                                .makeSerialQueue = scanTasks.factory(),
+                                                .clock = main,
+                                                .log = log,
+                                                .locale = {}});
+    }
+
+    /// One whole cycle with these results, a second after the last one.
+    void cycle(const QList<CWNetwork>& results)
+    {
+        main.advance(Seconds(1));
+        wifi.air.scan = results;
+        scanner->scanNetworks();
+        scanTasks.runOne();
+        main.drain();
+    }
+
+    [[nodiscard]] QStringList listedBSSIDs() const
+    {
+        QStringList bssids;
+        for (const WiFiNetwork& listed : scanner->networks()) {
+            bssids.append(listed.bssid);
+        }
+        return bssids;
+    }
+
+    ManualMainQueue main;
+    ManualSerialTasks scanTasks;
+    MemoryDefaults defaults;
+    RecordingLog log;
+    FakeWiFiClient wifi;
+    FakeLocationManager location;
+    SelectionStore selection{main};
+    std::optional<WiFiScanner> scanner;
+};
+
+} // namespace aerolith
