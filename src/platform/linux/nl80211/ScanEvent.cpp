@@ -1,0 +1,52 @@
+#include "platform/linux/nl80211/ScanEvent.h"
+
+#include "platform/linux/nl80211/Attributes.h"
+#include "platform/linux/nl80211/Messages.h"
+
+#include <linux/nl80211.h>
+
+using namespace Qt::StringLiterals;
+
+namespace aerolith::nl80211 {
+
+namespace {
+
+std::optional<ScanStage> stageOf(int command)
+{
+    switch (command) {
+    case NL80211_CMD_TRIGGER_SCAN:
+        return ScanStage::started;
+    case NL80211_CMD_NEW_SCAN_RESULTS:
+        return ScanStage::finished;
+    case NL80211_CMD_SCAN_ABORTED:
+        return ScanStage::aborted;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+Result<std::optional<ScanEvent>> decodeScanEvent(Bytes message)
+{
+    Bytes rest = message;
+    const auto taken = takeMessage(rest, 0);
+    if (!taken.ok()) {
+        return taken.error();
+    }
+    const auto stage = taken.value() ? stageOf(taken.value()->command) : std::nullopt;
+    if (!stage) {
+        return std::optional<ScanEvent>();
+    }
+    std::optional<std::uint32_t> interfaceIndex;
+    const auto visit = [&interfaceIndex](const Attribute& attribute) -> Failure {
+        return attribute.type == NL80211_ATTR_IFINDEX ? readValue(attribute, interfaceIndex) : Failure();
+    };
+    if (Failure failure = visitAttributes(taken.value()->attributes, "a scan event"_L1, visit)) {
+        return *failure;
+    }
+    // A scan by a device without a network interface (P2P) has no index.
+    return interfaceIndex ? std::optional(ScanEvent{*interfaceIndex, *stage}) : std::nullopt;
+}
+
+} // namespace aerolith::nl80211
