@@ -35,7 +35,14 @@ public:
     {
         main.advance(Seconds(1));
         wifi.air.scan = results;
+        runCycle();
+    }
+
+    /// One whole cycle with what the air holds.
+    void runCycle()
+    {
         scanner->scanNetworks();
+        main.drain();
         scanTasks.runOne();
         main.drain();
     }

@@ -44,7 +44,8 @@ public:
 
     [[nodiscard]] Failure setPower(bool) override { return {}; }
 
-    [[nodiscard]] Result<QList<CWNetwork>> scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) override;
+    [[nodiscard]] Result<QList<CWNetwork>>
+    scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) override;
 
 private:
     FakeAir& m_air;
@@ -53,7 +54,10 @@ private:
 class FakeWiFiClient : public CWWiFiClient
 {
 public:
-    [[nodiscard]] std::shared_ptr<CWInterface> interface() override { return m_present ? m_interface : nullptr; }
+    [[nodiscard]] std::shared_ptr<CWInterface> interface() override
+    {
+        return m_present ? m_interface : nullptr;
+    }
 
     void setPresent(bool present) { m_present = present; }
 

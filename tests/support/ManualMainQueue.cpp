@@ -85,9 +85,8 @@ void ManualMainQueue::advance(Seconds time)
 
 std::size_t ManualMainQueue::runningTimers() const
 {
-    return static_cast<std::size_t>(std::count_if(m_due.begin(), m_due.end(), [](const auto& due) {
-        return due->task && due->interval > Seconds(0);
-    }));
+    return static_cast<std::size_t>(std::count_if(
+        m_due.begin(), m_due.end(), [](const auto& due) { return due->task && due->interval > Seconds(0); }));
 }
 
 void ManualMainQueue::removeCancelled()

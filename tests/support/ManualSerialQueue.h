@@ -8,8 +8,8 @@
 
 namespace aerolith {
 
-/// The waiting tasks of a serial queue, which the test runs on its own thread. The scanner owns the queue, the test
-/// this.
+/// The waiting tasks of a serial queue, which the test runs on its own thread. The scanner owns the queue,
+/// the test this.
 class ManualSerialTasks
 {
 public:

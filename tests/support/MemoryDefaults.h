@@ -11,9 +11,15 @@ namespace aerolith {
 class MemoryDefaults : public UserDefaults
 {
 public:
-    [[nodiscard]] std::optional<double> doubleForKey(const QString& key) const override { return get<double>(key); }
+    [[nodiscard]] std::optional<double> doubleForKey(const QString& key) const override
+    {
+        return get<double>(key);
+    }
 
-    [[nodiscard]] std::optional<qint64> integerForKey(const QString& key) const override { return get<qint64>(key); }
+    [[nodiscard]] std::optional<qint64> integerForKey(const QString& key) const override
+    {
+        return get<qint64>(key);
+    }
 
     [[nodiscard]] std::optional<QByteArray> dataForKey(const QString& key) const override
     {

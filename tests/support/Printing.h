@@ -4,7 +4,8 @@
 
 #include <ostream>
 
-/// Lets GoogleTest print a text instead of its bytes. Found by argument-dependent lookup in the global namespace.
+/// Lets GoogleTest print a text instead of its bytes. Found by argument-dependent lookup in the global
+/// namespace.
 inline void PrintTo(const QString& text, std::ostream* stream)
 {
     *stream << '"' << text.toStdString() << '"';

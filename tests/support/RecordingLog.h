@@ -19,7 +19,7 @@ public:
     }
 
     /// The lines since the last call.
-    [[nodiscard]] QStringList take()
+    QStringList take()
     {
         const std::lock_guard lock(m_mutex);
         return std::exchange(m_lines, {});

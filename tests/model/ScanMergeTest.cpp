@@ -1,0 +1,176 @@
+#include "model/ScanMerge.h"
+
+#include "support/FakeWiFi.h"
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+using namespace aerolith;
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Merges cycle after cycle, as long as nothing else touches the maps.
+class Merger
+{
+public:
+    const AccessPoints& cycle(const QList<CWNetwork>& results,
+                              const std::optional<QString>& currentBSSID = {})
+    {
+        m_time += 10s;
+        m_known = mergeScan(
+            m_known, {.results = results, .scanTime = m_time, .currentBSSID = currentBSSID},
+            [this] { return limit; }, m_identifiers);
+        return m_known;
+    }
+
+    [[nodiscard]] TimePoint time() const { return m_time; }
+
+    qint64 limit = 20;
+
+private:
+    TimePoint m_time{1'800'000'000s};
+    AccessPoints m_known;
+    IdentifierSource m_identifiers;
+};
+
+QString rssis(const SignalHistoryList& history)
+{
+    QStringList texts;
+    for (const SignalHistory& sample : history) {
+        texts.append(QString::number(sample.rssi));
+    }
+    return texts.join(u' ');
+}
+
+QString rssisOf(const AccessPoints& points, const QString& bssid)
+{
+    return rssis(points.networkHistory.find(bssid)->value);
+}
+
+} // namespace
+
+TEST(ScanMerge, GivesEveryAcceptedResultARecordAndOneSample)
+{
+    Merger merger;
+    CWNetwork unnamed = network(u"dd"_s, u""_s);
+    const AccessPoints& points = merger.cycle({network(u"cc"_s, u"C"_s, -70), network(u"aa"_s, u"A"_s, -40),
+                                               unnamed, network(u"bb"_s, u"B"_s, -60)});
+    EXPECT_EQ(points.allNetworks.keys(), QList<QString>({u"aa"_s, u"bb"_s, u"cc"_s}));
+    for (const auto& [bssid, record] : points.allNetworks) {
+        ASSERT_EQ(record.signalHistory.size(), 1);
+        EXPECT_EQ(record.signalHistory.first().rssi, record.rssi);
+        EXPECT_EQ(record.signalHistory.first().noise, -90);
+        EXPECT_EQ(record.signalHistory.first().timestamp, merger.time());
+        EXPECT_EQ(record.timestamp, merger.time());
+    }
+}
+
+TEST(ScanMerge, MarksAMissedCycleAndKeepsTheLastSighting)
+{
+    Merger merger;
+    merger.cycle({network(u"aa"_s, u"A"_s, -40)}, u"aa"_s);
+    const TimePoint sighted = merger.time();
+    const AccessPoints& points = merger.cycle({network(u"bb"_s, u"B"_s, -50)});
+    const WiFiNetwork missed = points.allNetworks.find(u"aa"_s)->value;
+    EXPECT_EQ(rssis(missed.signalHistory), u"-40 -100"_s);
+    EXPECT_EQ(missed.signalHistory.last().noise, -90);
+    EXPECT_EQ(missed.signalHistory.last().timestamp, merger.time());
+    EXPECT_EQ(missed.rssi, -40);
+    EXPECT_EQ(missed.timestamp, sighted);
+    EXPECT_TRUE(missed.isCurrentNetwork) << "recomputed only when it is heard again";
+    EXPECT_EQ(points.lastSeenTimestamp.find(u"aa"_s)->value, sighted);
+}
+
+TEST(ScanMerge, MovesTheCurrentNetwork)
+{
+    Merger merger;
+    const QList<CWNetwork> both{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"B"_s)};
+    merger.cycle(both, u"aa"_s);
+    const AccessPoints& points = merger.cycle(both, u"bb"_s);
+    EXPECT_FALSE(points.allNetworks.find(u"aa"_s)->value.isCurrentNetwork);
+    EXPECT_TRUE(points.allNetworks.find(u"bb"_s)->value.isCurrentNetwork);
+}
+
+TEST(ScanMerge, CutsHistoriesFromTheFront)
+{
+    Merger merger;
+    for (qint64 rssi = -1; rssi >= -22; --rssi) {
+        merger.cycle({network(u"aa"_s, u"A"_s, rssi)});
+    }
+    const AccessPoints& full = merger.cycle({});
+    EXPECT_EQ(rssisOf(full, u"aa"_s).left(5), u"-4 -5"_s);
+    EXPECT_EQ(full.networkHistory.find(u"aa"_s)->value.size(), 20);
+
+    merger.limit = 3;
+    EXPECT_EQ(rssisOf(merger.cycle({network(u"aa"_s, u"A"_s, -7)}), u"aa"_s), u"-22 -100 -7"_s);
+    merger.limit = 4;
+    EXPECT_EQ(rssisOf(merger.cycle({}), u"aa"_s), u"-22 -100 -7 -100"_s);
+    for (const qint64 none : {qint64{0}, qint64{-5}}) {
+        merger.limit = none;
+        EXPECT_EQ(rssisOf(merger.cycle({network(u"aa"_s, u"A"_s, -7)}), u"aa"_s), u""_s);
+    }
+}
+
+TEST(ScanMerge, TakesTheLastOfTwoSightingsAndSamplesBoth)
+{
+    Merger merger;
+    const AccessPoints& points = merger.cycle(
+        {network(u"aa"_s, u"First"_s, -40), network(u"bb"_s, u"B"_s), network(u"aa"_s, u"Second"_s, -45)});
+    EXPECT_EQ(points.allNetworks.find(u"aa"_s)->value.ssid, u"Second"_s);
+    EXPECT_EQ(rssisOf(points, u"aa"_s), u"-40 -45"_s);
+}
+
+TEST(ScanMerge, LeavesOlderCopiesAlone)
+{
+    Merger merger;
+    const AccessPoints before = merger.cycle({network(u"aa"_s, u"A"_s, -40)});
+    merger.cycle({network(u"aa"_s, u"A"_s, -41), network(u"bb"_s, u"B"_s)});
+    EXPECT_EQ(before.allNetworks.size(), 1);
+    EXPECT_EQ(rssis(before.allNetworks.find(u"aa"_s)->value.signalHistory), u"-40"_s);
+}
+
+TEST(ScanMerge, KeepsTheMapsInStepWhateverComes)
+{
+    // Compared with a plain model: one list of RSSI values for each access point.
+    std::mt19937 random(7);
+    const auto chance = [&](unsigned outOf) { return random() % outOf == 0; };
+    Merger merger;
+    std::map<QString, QStringList> expected;
+    for (int round = 0; round < 300; ++round) {
+        QList<CWNetwork> results;
+        std::map<QString, QStringList> heard;
+        for (int i = 0; i < 12; ++i) {
+            if (chance(2)) {
+                const QString bssid = QString::number(random() % 30);
+                const qint64 rssi = -static_cast<qint64>(random() % 90);
+                results.append(network(bssid, chance(6) ? u"Unknown"_s : u"N"_s, rssi));
+                if (results.last().ssid == u"N"_s) {
+                    heard[bssid].append(QString::number(rssi));
+                }
+            }
+        }
+        for (auto& [bssid, samples] : expected) {
+            if (!heard.contains(bssid)) {
+                samples.append(u"-100"_s);
+            }
+        }
+        for (const auto& [bssid, samples] : heard) {
+            expected[bssid].append(samples);
+        }
+        const AccessPoints& points = merger.cycle(results);
+        ASSERT_EQ(points.allNetworks.keys(), points.networkHistory.keys());
+        ASSERT_EQ(points.allNetworks.keys(), points.lastSeenTimestamp.keys());
+        ASSERT_EQ(points.allNetworks.size(), static_cast<qsizetype>(expected.size()));
+        for (auto& [bssid, samples] : expected) {
+            samples = samples.last(std::min<qsizetype>(samples.size(), merger.limit));
+            ASSERT_EQ(rssisOf(points, bssid), samples.join(u' ')) << round;
+            ASSERT_EQ(rssis(points.allNetworks.find(bssid)->value.signalHistory), samples.join(u' '));
+        }
+    }
+}

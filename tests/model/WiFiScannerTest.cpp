@@ -1,0 +1,287 @@
+// The scan cycle: authorization, timing, the order of its steps, its failures and what overtakes it.
+
+#include "model/SettingKeys.h"
+#include "support/Engine.h"
+#include "support/Printing.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Status = CLAuthorizationStatus;
+
+/// Runs what the timer has started; says how many cycles that were.
+int completedCycles(Engine& engine)
+{
+    int count = 0;
+    while (engine.scanTasks.runOne()) {
+        engine.main.drain();
+        ++count;
+    }
+    return count;
+}
+
+int cyclesWithin(Engine& engine, double seconds)
+{
+    int count = 0;
+    for (int tenth = 0; tenth < qRound(seconds * 10); ++tenth) {
+        engine.main.advance(Seconds(0.1));
+        count += completedCycles(engine);
+    }
+    return count;
+}
+
+void expectMapsInStep(const WiFiScanner& scanner)
+{
+    EXPECT_EQ(scanner.allNetworks().keys(), scanner.networkHistory().keys());
+    EXPECT_EQ(scanner.allNetworks().keys(), scanner.lastSeenTimestamp().keys());
+}
+
+} // namespace
+
+TEST(WiFiScanner, ReadsTheAuthorizationWhenItIsMade)
+{
+    const std::pair<Status, QStringList> cases[] = {
+        {Status::notDetermined, {}},
+        {Status::restricted, {u"Location access denied or restricted."_s}},
+        {Status::denied, {u"Location access denied or restricted."_s}},
+        {Status::authorizedAlways, {u"Location access granted."_s}},
+        {Status::authorizedWhenInUse, {u"Location access granted."_s}},
+        {static_cast<Status>(9), {u"Unknown location authorization status."_s}},
+    };
+    for (const auto& [status, lines] : cases) {
+        Engine engine(status);
+        EXPECT_EQ(engine.log.take(), lines);
+        EXPECT_EQ(engine.location.requests, status == Status::notDetermined ? 1 : 0);
+        EXPECT_FALSE(engine.scanner->locationAccessDenied()) << "only the callback tells";
+        EXPECT_EQ(cyclesWithin(engine, 30), 0) << "scanning waits for the callback";
+    }
+}
+
+TEST(WiFiScanner, StartsFiveSecondsAfterAccessIsGrantedAndKeepsTheInterval)
+{
+    Engine engine(Status::notDetermined);
+    engine.defaults.setDouble(15, SettingKeys::scanInterval);
+    engine.location.change(Status::authorizedWhenInUse);
+    EXPECT_EQ(engine.log.take(), QStringList(u"Location access granted. Starting network scan..."_s));
+    EXPECT_EQ(cyclesWithin(engine, 4.9), 0);
+    EXPECT_EQ(cyclesWithin(engine, 0.2), 1);
+    EXPECT_EQ(cyclesWithin(engine, 14.7), 0);
+    EXPECT_EQ(cyclesWithin(engine, 0.3), 1);
+
+    engine.defaults.setDouble(5, SettingKeys::scanInterval);
+    EXPECT_EQ(cyclesWithin(engine, 14.5), 0) << "a new interval waits for the timer's restart";
+    EXPECT_EQ(cyclesWithin(engine, 1), 1);
+    engine.scanner->startTimer();
+    EXPECT_EQ(cyclesWithin(engine, 11), 2);
+}
+
+TEST(WiFiScanner, ReplacesItsTimerAtEveryGrant)
+{
+    Engine engine(Status::authorizedWhenInUse);
+    engine.location.change(Status::authorizedWhenInUse);
+    cyclesWithin(engine, 8);
+    engine.location.change(Status::authorizedAlways);
+    cyclesWithin(engine, 6);
+    EXPECT_EQ(engine.main.runningTimers(), 1U);
+    EXPECT_EQ(cyclesWithin(engine, 30), 3);
+}
+
+TEST(WiFiScanner, TakesOnlyUsableSettings)
+{
+    Engine engine;
+    EXPECT_EQ(engine.scanner->scanInterval(), 10.0);
+    EXPECT_EQ(engine.scanner->historyLimit(), 20);
+    for (const double useless : {0.0, -3.0, std::numeric_limits<double>::infinity()}) {
+        engine.defaults.setDouble(useless, SettingKeys::scanInterval);
+        EXPECT_EQ(engine.scanner->scanInterval(), 10.0);
+    }
+    engine.defaults.setDouble(0.5, SettingKeys::scanInterval);
+    EXPECT_EQ(engine.scanner->scanInterval(), 0.5);
+}
+
+TEST(WiFiScanner, WithdrawnAccessClearsTheSelectionAndNothingElse)
+{
+    Engine engine;
+    engine.location.change(Status::authorizedWhenInUse);
+    engine.cycle({network(u"aa"_s, u"A"_s)});
+    engine.selection.select(engine.scanner->networks().first());
+    engine.main.drain();
+    engine.log.take();
+    engine.location.change(Status::denied);
+    EXPECT_TRUE(engine.scanner->locationAccessDenied());
+    EXPECT_EQ(engine.log.take(), QStringList(u"Location access denied or restricted."_s));
+    EXPECT_TRUE(engine.selection.selectedBSSID()) << "the clear is posted";
+    engine.main.drain();
+    EXPECT_FALSE(engine.selection.selectedBSSID());
+    EXPECT_EQ(engine.listedBSSIDs(), QStringList(u"aa"_s));
+    EXPECT_GE(cyclesWithin(engine, 30), 2) << "the timer keeps running";
+    engine.location.change(Status::authorizedAlways);
+    EXPECT_FALSE(engine.scanner->locationAccessDenied());
+    engine.location.change(Status::notDetermined);
+    engine.location.change(static_cast<Status>(-1));
+    EXPECT_EQ(engine.log.take().last(2), QStringList({u"Location access not determined."_s,
+                                                      u"Unknown location authorization status."_s}));
+}
+
+TEST(WiFiScanner, TakesTheStepsOfACycleInOrder)
+{
+    Engine engine;
+    engine.log.take();
+    engine.wifi.air.ssid = u"Quay"_s;
+    engine.wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Unknown"_s)};
+    engine.scanner->scanNetworks();
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle) << "the status is posted";
+    engine.scanner->scanNetworks();
+    engine.main.drain();
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
+    EXPECT_EQ(engine.log.take(), QStringList(u"Starting network scan..."_s))
+        << "the second trigger does nothing";
+
+    engine.scanTasks.runOne();
+    EXPECT_FALSE(engine.scanTasks.runOne());
+    EXPECT_EQ(engine.log.take(), QStringList({u"Current network: Quay"_s, u"Found 2 networks"_s}));
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
+    engine.main.runOne();
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle) << "before the list is published";
+    EXPECT_EQ(engine.log.take(), QStringList(u"Network scan completed"_s));
+    EXPECT_TRUE(engine.scanner->networks().isEmpty());
+    EXPECT_EQ(engine.scanner->allNetworks().size(), 1);
+    engine.main.drain();
+    EXPECT_EQ(engine.listedBSSIDs(), QStringList(u"aa"_s));
+    EXPECT_EQ(engine.scanTasks.label(), u"com.app.wifiscanner.scan"_s);
+}
+
+TEST(WiFiScanner, KeepsTheDataThroughAFailedScan)
+{
+    Engine engine;
+    engine.cycle({network(u"aa"_s, u"A"_s, -40)});
+    engine.log.take();
+    engine.wifi.air.scan = Error{u"The Wi-Fi radio is off"_s};
+    engine.runCycle();
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::error);
+    EXPECT_EQ(engine.scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s);
+    EXPECT_EQ(engine.log.take(), QStringList({u"Starting network scan..."_s, u"Current network: None"_s,
+                                              u"Scan failed: The Wi-Fi radio is off"_s}));
+    EXPECT_EQ(engine.scanner->networks().first().signalHistory.size(), 1) << "no sample for a failed cycle";
+    engine.cycle({});
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+    EXPECT_EQ(engine.scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s) << "the status tells";
+    EXPECT_EQ(engine.scanner->networks().first().signalHistory.size(), 2);
+}
+
+TEST(WiFiScanner, StaysScanningWithoutAnInterfaceAndTriesAgain)
+{
+    Engine engine;
+    engine.wifi.setPresent(false);
+    for (int i = 0; i < 2; ++i) {
+        engine.log.take();
+        engine.cycle({});
+        EXPECT_EQ(engine.log.take(),
+                  QStringList({u"Starting network scan..."_s, u"No WiFi interface found"_s}));
+        EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
+    }
+    EXPECT_FALSE(engine.scanner->findNetwork(u"A"_s));
+    engine.wifi.setPresent(true);
+    engine.cycle({network(u"aa"_s, u"A"_s)});
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+}
+
+TEST(WiFiScanner, FindsANetworkByItsBytes)
+{
+    Engine engine;
+    engine.wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Caf\u00e9"_s)};
+    engine.log.take();
+    EXPECT_EQ(engine.scanner->findNetwork(u"Caf\u00e9"_s)->bssid, u"bb"_s);
+    EXPECT_EQ(engine.wifi.air.askedFor, QList<QByteArray>{"Caf\xc3\xa9"});
+    EXPECT_FALSE(engine.scanner->findNetwork(QByteArray("Caf\xe9")));
+    EXPECT_EQ(engine.log.take(), QStringList());
+    engine.wifi.air.scan = Error{u"Scan timed out"_s};
+    EXPECT_FALSE(engine.scanner->findNetwork(u"A"_s));
+    EXPECT_EQ(engine.log.take(), QStringList(u"Error finding network: Scan timed out"_s));
+    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+}
+
+TEST(WiFiScanner, ForgetsACycleThatAClearOvertakes)
+{
+    for (const bool duringScan : {true, false}) {
+        Engine engine;
+        engine.cycle({network(u"aa"_s, u"A"_s)});
+        engine.wifi.air.scan = QList<CWNetwork>{network(u"bb"_s, u"B"_s)};
+        if (duringScan) {
+            engine.wifi.air.duringScan = [&] { engine.scanner->clearNetworks(); };
+        }
+        engine.scanner->scanNetworks();
+        engine.scanTasks.runOne();
+        if (!duringScan) {
+            engine.scanner->clearNetworks();
+        }
+        engine.main.drain();
+        expectMapsInStep(*engine.scanner);
+        // A scan that answers after the clear is new knowledge; one that was merged before it is not.
+        EXPECT_EQ(engine.listedBSSIDs(), duringScan ? QStringList(u"bb"_s) : QStringList());
+        EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+        engine.wifi.air.duringScan = nullptr;
+        engine.cycle({network(u"aa"_s, u"A"_s)});
+        expectMapsInStep(*engine.scanner);
+        EXPECT_EQ(engine.scanner->allNetworks().find(u"aa"_s)->value.signalHistory.size(), 1);
+    }
+}
+
+TEST(WiFiScanner, KeepsTheMapsInStepWhenACycleMergesBeforeTheLastIsApplied)
+{
+    Engine engine;
+    const auto mergeOnly = [&](const QList<CWNetwork>& results) {
+        engine.wifi.air.scan = results;
+        engine.scanner->scanNetworks();
+        engine.scanTasks.runOne();
+    };
+    engine.cycle({network(u"aa"_s, u"A"_s)});
+    mergeOnly({network(u"bb"_s, u"B"_s)});
+    mergeOnly({network(u"cc"_s, u"C"_s)});
+    engine.main.drain();
+    expectMapsInStep(*engine.scanner);
+    engine.cycle({network(u"bb"_s, u"B"_s)});
+    expectMapsInStep(*engine.scanner);
+    for (const auto& [bssid, record] : engine.scanner->allNetworks()) {
+        EXPECT_EQ(record.signalHistory.size(), engine.scanner->networkHistory().find(bssid)->value.size())
+            << bssid.toStdString();
+    }
+}
+
+TEST(WiFiScanner, EndsWithWorkOnItsWay)
+{
+    Engine engine;
+    engine.location.change(Status::authorizedWhenInUse);
+    engine.cycle({network(u"aa"_s, u"A"_s)});
+    engine.scanner->scanNetworks();
+    engine.scanTasks.runOne();
+    engine.scanner->clearNetworks();
+    engine.scanner.reset();
+    engine.main.advance(Seconds(60));
+    EXPECT_EQ(engine.main.runningTimers(), 0U);
+}
+
+TEST(WiFiScanner, NotifiesAlsoOfEqualValues)
+{
+    Engine engine;
+    QSignalSpy status(&*engine.scanner, &WiFiScanner::statusChanged);
+    QSignalSpy networks(&*engine.scanner, &WiFiScanner::networksChanged);
+    QSignalSpy selected(&engine.selection, &SelectionStore::selectedBSSIDChanged);
+    engine.cycle({});
+    engine.cycle({});
+    EXPECT_EQ(status.count(), 4);
+    EXPECT_EQ(networks.count(), 2);
+    engine.selection.clearSelection();
+    engine.selection.clearSelection();
+    EXPECT_EQ(selected.count(), 0);
+    engine.main.drain();
+    EXPECT_EQ(selected.count(), 2);
+}
