@@ -1,0 +1,158 @@
+# What scenarios are written with. Sourced in the guest, as root. Every wait is bounded.
+
+USER_ID=2100 # of the unprivileged user "tester"
+
+say() { echo "guest: $* [$(cut -d' ' -f1 /proc/uptime) s]"; }
+
+# finish: hands out the services' logs and powers off.
+finish() {
+    cp /run/*.log /out/ 2>/dev/null
+    sync
+    poweroff -f
+}
+
+# give_up REASON...: ends the guest without its last word, which fails the run.
+give_up() {
+    say "gives up: $*"
+    finish
+}
+
+# wait_for SECONDS COMMAND...: until COMMAND succeeds; says so and fails when it has not in time.
+wait_for() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || { say "waited in vain for: $*"; return 1; }
+        sleep 0.2
+    done
+}
+
+mount_system_folders() {
+    mount -t tmpfs tmpfs /run
+    mkdir -p /run/dbus /run/lock /run/observed /dev/pts /dev/shm
+    mount -t devpts devpts /dev/pts
+    mount -t tmpfs tmpfs /dev/shm
+    mount -t debugfs debugfs /sys/kernel/debug
+    mount -t cgroup2 cgroup2 /sys/fs/cgroup
+    ln -sfn /proc/self/fd /dev/fd
+    # Empty folders of our own over those that only root may read on the host.
+    mkdir -p /etc/polkit-1/rules.d /etc/NetworkManager/system-connections /var/lib/NetworkManager /lib/modules
+    mount -t tmpfs tmpfs /etc/polkit-1/rules.d
+    mount -t tmpfs -o mode=700 tmpfs /etc/NetworkManager/system-connections
+    mount -t tmpfs -o mode=700 tmpfs /var/lib/NetworkManager
+    ln -sfn "$MODULES" "/lib/modules/$(uname -r)"
+}
+
+start_system_services() {
+    /lib/systemd/systemd-udevd --daemon # without it NetworkManager leaves devices unmanaged
+    ip link set lo up
+    dbus-daemon --system --fork
+    /usr/lib/polkit-1/polkitd --no-debug >/run/polkitd.log 2>&1 &
+    wait_for 20 busctl --system status org.freedesktop.PolicyKit1
+}
+
+add_user() {
+    echo "tester:x:$USER_ID:$USER_ID::/run/home:/bin/bash" >>/etc/passwd
+    echo "tester:x:$USER_ID:" >>/etc/group
+    install -d -o $USER_ID -g $USER_ID /run/home "/run/user/$USER_ID"
+    install -m 755 "$PROGRAM" /run/aerolith-scan # the build tree may be closed to other users
+}
+
+as_user() {
+    env -i PATH="$PATH" LC_ALL=C.UTF-8 HOME=/run/home USER=tester XDG_RUNTIME_DIR="/run/user/$USER_ID" \
+        setpriv --reuid=$USER_ID --regid=$USER_ID --clear-groups "$@"
+}
+
+# observe NAME SECONDS ARGUMENT...: runs aerolith-scan as the unprivileged user, in a folder of its own that ends up
+# as /out/NAME, beside its standard output, standard error, exit status (124: not done within SECONDS) and times.
+observe() {
+    local name=$1 seconds=$2 folder=/run/observed/$1
+    shift 2
+    install -d -o $USER_ID -g $USER_ID "$folder"
+    date +%s.%N >"$folder/begun"
+    (cd "$folder" && as_user timeout -k 5 "$seconds" /run/aerolith-scan "$@") >"$folder/stdout" 2>"$folder/stderr"
+    echo $? >"$folder/status"
+    date +%s.%N >"$folder/ended"
+    iw dev wlan0 scan dump >"$folder/iw.txt" 2>/dev/null
+    mkdir -p "/out/$name" && cp -r "$folder/." "/out/$name/"
+    say "$name: status $(cat "$folder/status"): $(tail -n 1 "$folder/stderr")"
+}
+
+# start_radios: one simulated radio for the station (wlan0) and one for each of the plan's. The latter go into a
+# network namespace, so that NetworkManager sees a single Wi-Fi device.
+start_radios() {
+    local phy
+    modprobe mac80211_hwsim radios=$((RADIOS + 1)) || give_up "no simulated radios"
+    for module in ccm cmac gcm arc4; do modprobe -q "$module"; done
+    udevadm trigger --subsystem-match=net --subsystem-match=rfkill --subsystem-match=ieee80211
+    udevadm settle -t 30
+    ip netns add radios
+    ip -n radios link set lo up
+    for phy in $(seq "$RADIOS"); do iw phy "phy$phy" set netns name radios; done
+    iw reg set "$COUNTRY"
+    wait_for 10 sh -c "iw reg get | grep -q 'country $COUNTRY'"
+}
+
+among_radios() { ip netns exec radios "$@"; }
+
+hostapd_asks() { among_radios hostapd_cli -p /run/hostapd -i "$@"; }
+
+access_point_runs() { hostapd_asks "$1" status | grep -q '^state=ENABLED'; }
+
+# start_access_points: every one of the plan, each radio at its signal strength (which the kernel takes as an
+# unsigned number only).
+start_access_points() {
+    local number
+    for number in $(seq "$RADIOS"); do
+        printf %u "${RX_RSSI[$number]}" >"/sys/kernel/debug/ieee80211/phy$number/hwsim/rx_rssi"
+    done
+    among_radios hostapd -B -f /run/hostapd.log /out/plan/*.conf ||
+        give_up "hostapd has failed: $(tail -n 5 /run/hostapd.log)"
+    for number in $(seq "$RADIOS"); do
+        wait_for 30 access_point_runs "wlan$number" || give_up "wlan$number has no access point"
+    done
+}
+
+switch_off_access_point() { hostapd_asks "$1" disable >/dev/null; }
+
+station_state_is_at_least() { [ "$(nmcli -g GENERAL.STATE device show wlan0 | cut -d' ' -f1)" -ge "$1" ]; }
+
+# start_network_manager: it manages wlan0 alone and keeps no profile.
+start_network_manager() {
+    cat >/run/NetworkManager.conf <<'CONFIGURATION'
+[main]
+plugins=keyfile
+no-auto-default=*
+dns=none
+[keyfile]
+unmanaged-devices=interface-name:*,except:interface-name:wlan0
+[device]
+wifi.scan-rand-mac-address=no
+CONFIGURATION
+    wpa_supplicant -u -B -s -f /run/wpa_supplicant.log
+    NetworkManager --debug --config /run/NetworkManager.conf >/run/NetworkManager.log 2>&1 &
+    wait_for 40 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
+}
+
+scan_permission_is() { as_user nmcli -t general permissions | grep -q "wifi.scan:$1"; }
+
+# permit yes|no|auth: what polkit answers when tester asks NetworkManager for anything; "auth" is polkit's own
+# default for a user without a login session.
+permit() {
+    local rules=/etc/polkit-1/rules.d/40-tester.rules
+    if [ "$1" = auth ]; then
+        rm -f "$rules"
+    else
+        echo "polkit.addRule(function(action, subject) {
+            if (subject.user == 'tester' && action.id.indexOf('org.freedesktop.NetworkManager.') == 0)
+                return polkit.Result.${1^^};
+        });" >"$rules"
+    fi
+    wait_for 20 scan_permission_is "$1" || give_up "the permission to scan is not '$1'"
+}
+
+# watch_scans: keeps a log of the kernel's scan events, with their times, in /out/scans.txt.
+watch_scans() { iw event -t >/out/scans.txt 2>/dev/null & }
+
+scans_ended() { grep -c 'scan finished' /out/scans.txt; }
+scan_has_ended_since() { [ "$(scans_ended)" -gt "$1" ]; }

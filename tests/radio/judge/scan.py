@@ -1,0 +1,165 @@
+"""Judges what scenarios/scan.sh has left: run with the results folder; exit status 1 when there is a fault."""
+
+import json
+import re
+import sys
+from datetime import datetime
+from pathlib import Path
+
+import access_points
+import iw_dump
+from compare import NOISE, compare, print_table
+
+MISSED = -100  # dBm; a sample of a cycle in which the access point was not heard
+
+# Step: exit status, and what its message has to speak of.
+REFUSALS = {
+    "no-interface": (3, r"interface"),
+    "no-manager": (1, r"NetworkManager"),
+    "denied": (1, r"permi|allow|authori[sz]"),
+    "unanswered": (1, r"permi|allow|authori[sz]"),
+    "radio-off": (1, r"radio"),
+}
+
+
+class Faults:
+    """Collects what is wrong and prints each at once."""
+
+    def __init__(self) -> None:
+        self.count = 0
+
+    def expect(self, holds: bool, fault: str) -> bool:
+        if not holds:
+            self.count += 1
+            print(f"FAULT: {fault}")
+        return holds
+
+
+class Step:
+    """One observed run of the program."""
+
+    def __init__(self, results: Path, name: str) -> None:
+        self.name, self.folder = name, results / name
+        self.begun, self.ended = (float(self.text(mark)) for mark in ("begun", "ended"))
+        self.status = int(self.text("status"))
+        self.message = (self.text("stderr").strip().splitlines() or [""])[-1]
+        self.entries = iw_dump.newest_of_each(iw_dump.parse(self.text("iw.txt")))
+
+    def text(self, name: str) -> str:
+        return (self.folder / name).read_text(encoding="utf-8", errors="replace")
+
+    def document(self, name: str):
+        return json.loads(self.text(name))
+
+    def first_scan(self) -> float:
+        """When the first scan that ended in this step began; infinity when there was none."""
+        events = re.findall(r"^([\d.]+):.*scan (started|finished)", (self.folder.parent / "scans.txt").read_text(), re.M)
+        started = float("inf")
+        for time, event in events:
+            if event == "started":
+                started = float(time)
+            elif float(time) >= self.begun:
+                return started
+        return float("inf")
+
+
+def judge_refusals(results: Path, faults: Faults) -> None:
+    messages = {}
+    for name, (status, pattern) in REFUSALS.items():
+        step = Step(results, name)
+        print(f"{name}: {step.status}: {step.message}")
+        faults.expect(step.status == status, f"{name}: exit status {step.status} instead of {status}")
+        faults.expect(bool(re.search(pattern, step.message, re.I)), f"{name}: the message does not say why")
+        messages[name] = step.message
+    causes = {messages[name] for name in ("no-interface", "no-manager", "denied", "radio-off")}
+    faults.expect(len(causes) == 4, "two different causes have the same message")
+
+
+def judge_making(entries: dict[str, iw_dump.Entry], faults: Faults) -> None:
+    """Whether every access point is on the air as the table has it: the bed itself, not the program."""
+    for bssid, radio, made in access_points.every_access_point():
+        if not faults.expect(bssid in entries, f"{bssid} {made.ssid!r} is not on the air"):
+            continue
+        entry = entries[bssid]
+        modes = [f"802.11{mode}" for mode in radio.phy_modes.split()]
+        wanted = (radio.channel, radio.width, made.security, modes, radio.country, radio.beacon_interval)
+        found = (entry.channel, entry.width, entry.security, entry.phy_modes, entry.country, entry.beacon_interval)
+        faults.expect(found == wanted, f"{bssid} {made.ssid!r} is on the air as {found}, made as {wanted}")
+        faults.expect(made.hidden or entry.ssid == made.ssid, f"{bssid}: {entry.ssid!r} for {made.ssid!r}")
+
+
+def judge_list(step: Step, faults: Faults) -> list[dict]:
+    """The list of one step against iw's; returns its records."""
+    print(f"--- {step.name}")
+    if not faults.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}"):
+        return []
+    records = step.document("list.json")["networks"]
+    differences = compare(records, step.entries, step.ended, step.first_scan())
+    print_table(records, step.entries, differences)
+    unexplained = sum(1 for difference in differences if not difference.reason)
+    print(f"{step.name}: {len(records)} records, {len(differences) - unexplained} explained and "
+          f"{unexplained} unexplained differences")
+    faults.count += unexplained
+    for record in records:
+        time = datetime.fromisoformat(record["timestamp"].replace("Z", "+00:00")).timestamp()
+        faults.expect(step.begun <= time <= step.ended, f"{record['bssid']}: seen at {record['timestamp']}")
+    return records
+
+
+def judge_details(step: Step, records: list[dict], faults: Faults) -> None:
+    """Each access point's details: the list's record, with a history that fits it."""
+    leaving, _ = access_points.radio_of_role("leaving")
+    for record in records:
+        bssid = record["bssid"]
+        details = step.document(f"{bssid}.json")
+        differing = [key for key in record if details.get(key) != record[key]]
+        faults.expect(not differing, f"{bssid}: list and details differ in {differing}")
+        faults.expect(details["snr"] == record["rssi"] - NOISE, f"{bssid}: snr {details['snr']}")
+
+        history = details["signalHistory"]
+        signals = [sample["rssi"] for sample in history]
+        faults.expect({sample["noise"] for sample in history} == {NOISE}, f"{bssid}: noise in {history}")
+        heard = [sample for sample in history if sample["rssi"] != MISSED]
+        faults.expect({sample["rssi"] for sample in heard} == {record["rssi"]}, f"{bssid}: history {signals}")
+        faults.expect(bool(heard) and heard[-1]["timestamp"] == record["timestamp"], f"{bssid}: last heard when?")
+        if bssid == access_points.bssid(leaving, 0):
+            gone = signals.index(MISSED) if MISSED in signals else len(signals)
+            faults.expect(0 < gone < len(signals) and set(signals[gone:]) == {MISSED},
+                          f"{bssid} was switched off in the first cycle, its history is {signals}")
+        elif MISSED in signals:
+            print(f"note: {bssid} was not heard in every cycle: {signals}")
+
+
+def judge_survey(results: Path, faults: Faults) -> None:
+    step = Step(results, "survey")
+    records = judge_list(step, faults)
+    judge_making(step.entries, faults)
+    listed = {record["bssid"] for record in records}
+    named = {bssid for bssid, _, made in access_points.every_access_point() if not made.hidden}
+    faults.expect(listed == named, f"listed and made access points differ: {sorted(listed ^ named)}")
+    judge_details(step, records, faults)
+
+
+def judge_joined(results: Path, faults: Faults) -> None:
+    step = Step(results, "joined")
+    records = judge_list(step, faults)
+    number, _ = access_points.radio_of_role("joined")
+    current = [record["bssid"] for record in records if record["isCurrentNetwork"]]
+    faults.expect(current == [access_points.bssid(number, 0)], f"marked as current: {current}")
+    for record in records:
+        entry = step.entries.get(record["bssid"])
+        stale = entry is not None and step.ended - entry.age < step.first_scan() - 1
+        faults.expect(not stale, f"{record['bssid']} was not heard in this scan, yet it is listed")
+
+
+def main(results: Path) -> int:
+    faults = Faults()
+    judge_refusals(results, faults)
+    judge_survey(results, faults)
+    judge_joined(results, faults)
+    print(f"{faults.count} faults")
+    return 1 if faults.count else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(Path(sys.argv[1])))

@@ -1,0 +1,34 @@
+# The list and the details against the kernel's own, and every way in which a scan may be refused.
+# Sourced in the guest; judged on the host by judge/scan.py.
+
+observe no-interface 20
+
+start_radios
+start_access_points
+watch_scans
+observe no-manager 60
+
+start_network_manager
+permit no
+observe denied 60
+permit auth
+observe unanswered 60
+
+permit yes
+details=()
+for bssid in $BSSIDS; do details+=(--details "$bssid" "$bssid.json"); done
+ended=$(scans_ended)
+observe survey 120 --cycles 3 --interval 5 --format json --list list.json "${details[@]}" &
+wait_for 60 scan_has_ended_since "$ended"
+switch_off_access_point "$LEAVING_INTERFACE"
+wait $!
+
+nmcli connection add type wifi con-name joined ifname wlan0 ssid "$JOINED_SSID" \
+    ipv4.method disabled ipv6.method disabled >/dev/null
+nmcli --wait 40 connection up joined
+observe joined 60 --cycles 1 --format json --list list.json
+nmcli connection delete joined >/dev/null
+
+nmcli radio wifi off
+wait_for 20 sh -c 'rfkill list | grep -q "Soft blocked: yes"'
+observe radio-off 60
