@@ -8,6 +8,14 @@ using namespace Qt::StringLiterals;
 
 namespace aerolith::nl80211 {
 
+Bytes afterPadding(Bytes bytes, std::size_t size)
+{
+    constexpr std::size_t alignment = NLA_ALIGNTO;
+    static_assert(alignment == NLMSG_ALIGNTO);
+    const std::size_t padded = (size + alignment - 1) / alignment * alignment;
+    return bytes.subspan(std::min(bytes.size(), padded));
+}
+
 Result<Attribute> takeAttribute(Bytes& rest, std::size_t taken, QLatin1StringView owner)
 {
     nlattr header;
@@ -24,7 +32,7 @@ Result<Attribute> takeAttribute(Bytes& rest, std::size_t taken, QLatin1StringVie
                          .arg(rest.size())};
     }
     const Bytes payload = rest.subspan(sizeof header, header.nla_len - sizeof header);
-    rest = rest.subspan(std::min(rest.size(), std::size_t{NLA_ALIGN(header.nla_len)}));
+    rest = afterPadding(rest, header.nla_len);
     return Attribute{type, payload, owner};
 }
 

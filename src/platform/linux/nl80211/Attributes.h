@@ -20,6 +20,10 @@ struct Attribute
     QLatin1StringView owner;
 };
 
+/// What follows the first `size` bytes and the padding behind them: netlink lets everything begin at a
+/// multiple of four bytes. The padding may be missing at the end.
+[[nodiscard]] Bytes afterPadding(Bytes bytes, std::size_t size);
+
 /// Takes the first attribute off `rest`; `taken` is how many bytes of the owner lie before `rest`. An error
 /// where the attribute is cut short.
 [[nodiscard]] Result<Attribute> takeAttribute(Bytes& rest, std::size_t taken, QLatin1StringView owner);

@@ -3,7 +3,6 @@
 #include <linux/genetlink.h>
 #include <linux/netlink.h>
 
-#include <algorithm>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -23,9 +22,7 @@ Result<std::optional<Message>> takeMessage(Bytes& rest, std::size_t taken)
                          .arg(rest.size())};
     }
     const Bytes content = rest.subspan(NLMSG_HDRLEN, header.nlmsg_len - NLMSG_HDRLEN);
-    const std::size_t aligned =
-        (std::size_t{header.nlmsg_len} + NLMSG_ALIGNTO - 1) & ~std::size_t{NLMSG_ALIGNTO - 1};
-    rest = rest.subspan(std::min(rest.size(), aligned));
+    rest = afterPadding(rest, header.nlmsg_len);
     if (header.nlmsg_type < NLMSG_MIN_TYPE) {
         return std::optional<Message>();
     }
