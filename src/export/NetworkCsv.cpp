@@ -1,0 +1,75 @@
+#include "export/NetworkCsv.h"
+
+#include "export/Csv.h"
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString withUnit(qint64 number, const QString& unit)
+{
+    return QString::number(number) + u' ' + unit;
+}
+
+void addProperties(CsvText& csv, const WiFiNetwork& network, const DateTexts& texts)
+{
+    csv.addRow({u"Field", u"Value"});
+    csv.addRow({u"SSID", network.ssid});
+    csv.addRow({u"BSSID", network.bssid});
+    csv.addRow({u"RSSI", withUnit(network.rssi, u"dBm"_s)});
+    csv.addRow({u"Noise", withUnit(network.noise, u"dBm"_s)});
+    csv.addRow({u"SNR", withUnit(network.rssi - network.noise, u"dB"_s)});
+    csv.addRow({u"Channel", QString::number(network.channel)});
+    csv.addRow({u"Channel Width", withUnit(network.channelWidth, u"MHz"_s)});
+    csv.addRow({u"Band", network.channelBand});
+    csv.addRow({u"Security", network.security});
+    csv.addRow({u"Network Type", network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s});
+    csv.addRow({u"Beacon Interval", QString::number(network.beaconInterval)});
+    csv.addRow({u"PHY Modes", network.isPhyModeSupported.join(u", "_s)});
+    csv.addRow({u"Current Network", network.isCurrentNetwork ? u"Yes"_s : u"No"_s});
+    csv.addRow({u"Last Seen", texts.mediumDateTime(network.timestamp)});
+    if (network.countryCode) {
+        csv.addRow({u"Country", *network.countryCode});
+    }
+}
+
+void addHistory(CsvText& csv, const SignalHistoryList& history, const DateTexts& texts)
+{
+    csv.addRow({u"", u""});
+    csv.addRow({u"Signal History", u""});
+    csv.addRow({u"Timestamp", u"RSSI (dBm)", u"Noise (dBm)"});
+    for (const SignalHistory& sample : history) {
+        csv.addRow({texts.mediumTime(sample.timestamp), QString::number(sample.rssi),
+                    QString::number(sample.noise)});
+    }
+}
+
+} // namespace
+
+QString networkListCSV(const WiFiNetworkList& networks)
+{
+    /// A row of common names; a list with longer ones grows the text a few times.
+    constexpr qsizetype usualRow = 96;
+    CsvText csv;
+    csv.reserve((networks.size() + 1) * usualRow);
+    csv.addRow({u"SSID", u"BSSID", u"RSSI (dBm)", u"Channel", u"Band", u"Security", u"Country"});
+    const QString noCountry = u"Unknown"_s;
+    for (const WiFiNetwork& network : networks) {
+        csv.addRow({network.ssid, network.bssid, QString::number(network.rssi),
+                    QString::number(network.channel), network.channelBand, network.security,
+                    network.countryCode ? *network.countryCode : noCountry});
+    }
+    return csv.text();
+}
+
+QString networkDetailsCSV(const WiFiNetwork& network, const DateTexts& texts)
+{
+    CsvText csv;
+    addProperties(csv, network, texts);
+    addHistory(csv, network.signalHistory, texts);
+    return csv.text();
+}
+
+} // namespace aerolith

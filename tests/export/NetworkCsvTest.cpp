@@ -1,0 +1,90 @@
+#include "export/NetworkCsv.h"
+
+#include "export/CSVFile.h"
+#include "export/SampleNetworks.h"
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString detailsOf(const WiFiNetwork& network)
+{
+    return networkDetailsCSV(
+        network, DateTexts({.collation = "en_US", .time = "en_US", .timeZone = "America/New_York"}));
+}
+
+} // namespace
+
+TEST(NetworkCsv, WritesTheListInItsOrder)
+{
+    EXPECT_EQ(networkListCSV({harborLoft(), cornerCafe()}),
+              u"\"SSID\",\"BSSID\",\"RSSI (dBm)\",\"Channel\",\"Band\",\"Security\",\"Country\"\n"
+              "\"Harbor Loft\",\"0a:1b:2c:3d:4e:5f\",\"-58\",\"36\",\"5 GHz\",\"WPA2, Personal\",\"US\"\n"
+              "\"Corner Cafe\",\"12:34:56:78:9a:bc\",\"-71\",\"6\",\"2.4 GHz\",\"None\",\"Unknown\""_s);
+    EXPECT_EQ(networkListCSV({}),
+              u"\"SSID\",\"BSSID\",\"RSSI (dBm)\",\"Channel\",\"Band\",\"Security\",\"Country\""_s);
+}
+
+TEST(NetworkCsv, WritesTheDetailsWithTheHistory)
+{
+    EXPECT_EQ(detailsOf(harborLoft()), u"\"Field\",\"Value\"\n"
+                                       "\"SSID\",\"Harbor Loft\"\n"
+                                       "\"BSSID\",\"0a:1b:2c:3d:4e:5f\"\n"
+                                       "\"RSSI\",\"-58 dBm\"\n"
+                                       "\"Noise\",\"-90 dBm\"\n"
+                                       "\"SNR\",\"32 dB\"\n"
+                                       "\"Channel\",\"36\"\n"
+                                       "\"Channel Width\",\"80 MHz\"\n"
+                                       "\"Band\",\"5 GHz\"\n"
+                                       "\"Security\",\"WPA2, Personal\"\n"
+                                       "\"Network Type\",\"Infrastructure\"\n"
+                                       "\"Beacon Interval\",\"100\"\n"
+                                       "\"PHY Modes\",\"802.11a, 802.11n, 802.11ac\"\n"
+                                       "\"Current Network\",\"Yes\"\n"
+                                       "\"Last Seen\",\"Nov 16, 2026 at 6:21:48 PM\"\n"
+                                       "\"Country\",\"US\"\n"
+                                       "\"\",\"\"\n"
+                                       "\"Signal History\",\"\"\n"
+                                       "\"Timestamp\",\"RSSI (dBm)\",\"Noise (dBm)\"\n"
+                                       "\"6:21:28 PM\",\"-60\",\"-90\"\n"
+                                       "\"6:21:38 PM\",\"-59\",\"-90\"\n"
+                                       "\"6:21:48 PM\",\"-58\",\"-90\""_s);
+}
+
+TEST(NetworkCsv, LeavesOutWhatIsAbsent)
+{
+    WiFiNetwork network = cornerCafe();
+    network.isIBSS = true;
+    const QString details = detailsOf(network);
+    EXPECT_TRUE(details.contains(u"\"PHY Modes\",\"\"\n\"Current Network\",\"No\"\n"_s));
+    EXPECT_TRUE(details.contains(u"\"Network Type\",\"Ad-Hoc\"\n"_s));
+    EXPECT_FALSE(details.contains(u"Country"_s));
+    EXPECT_TRUE(details.endsWith(
+        u"\"\n\"\",\"\"\n\"Signal History\",\"\"\n\"Timestamp\",\"RSSI (dBm)\",\"Noise (dBm)\""_s));
+}
+
+TEST(NetworkCsv, KeepsHostileNamesInTheirField)
+{
+    WiFiNetwork network = cornerCafe();
+    const std::pair<QString, QString> names[] = {
+        {u"a,b\nc\r"_s, u"\"a,b\nc\r\","_s},
+        {u"\""_s, u"\"\"\"\","_s},
+        {u"\"say \"\"hi\""_s, u"\"\"\"say \"\"\"\"hi\"\"\","_s},
+        {u"=1+1"_s, u"\"=1+1\","_s},
+        {u"%1 \u202eabc"_s, u"\"%1 \u202eabc\","_s},
+    };
+    for (const auto& [name, field] : names) {
+        network.ssid = name;
+        EXPECT_TRUE(networkListCSV({network}).contains(u"\n"_s + field)) << name.toStdString();
+    }
+}
+
+TEST(CSVFile, IsWrittenAsPlainUtf8AndReadAsNothing)
+{
+    EXPECT_EQ(CSVFile(u"\"Caf\u00e9\""_s).fileWrapper(), QByteArray("\"Caf\xc3\xa9\""));
+    EXPECT_EQ(CSVFile::reading("\"a\",\"b\"").content(), QString());
+}
