@@ -53,7 +53,7 @@ QString quoted(const QString& text)
         } else if (QChar::isPrint(character)) {
             result += QChar::fromUcs4(character);
         } else {
-            result += u"\\u%1"_s.arg(static_cast<uint>(character), 4, 16, u'0');
+            result += u"\\u"_s + QString::number(quint32{character}, 16).rightJustified(4, u'0');
         }
     }
     return result + (text.size() > longestQuotation ? u"…\""_s : u"\""_s);
@@ -68,7 +68,7 @@ JsonPlace::JsonPlace(const JsonPlace& parent, const QJsonValue& value, const QSt
 
 JsonPlace JsonPlace::member(const QString& key) const
 {
-    return {*this, m_value[key], isPlainKey(key) ? u'.' + key : u'[' + quoted(key) + u']'};
+    return {*this, m_value.toObject().value(key), isPlainKey(key) ? u'.' + key : u'[' + quoted(key) + u']'};
 }
 
 JsonPlace JsonPlace::element(qsizetype index) const

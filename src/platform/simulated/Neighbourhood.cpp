@@ -229,8 +229,9 @@ Scenario neighbourhood()
     Scenario scenario;
     scenario.afterLast = AfterLast::loop;
     scenario.cycles.resize(cycleCount);
-    scenario.interface->channels = QList<qint64>{1,  2,  3,  4,  5,  6,  7,  8,  9,   10,  11,  12,  13,
-                                                 36, 40, 44, 48, 52, 56, 60, 64, 100, 104, 108, 112, 116, 149, 153, 157, 161};
+    scenario.interface->channels =
+        QList<qint64>{1,  2,  3,  4,  5,  6,  7,   8,   9,   10,  11,  12,  13,  36,  40,
+                      44, 48, 52, 56, 60, 64, 100, 104, 108, 112, 116, 149, 153, 157, 161};
     FixedNumbers numbers;
     std::optional<ScenarioAssociation> joined;
     for (const Owner& owner : owners()) {
