@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDBusArgument>
+#include <QMap>
+#include <QString>
+#include <QVariantMap>
+
+// The types that NetworkManager's interfaces use beyond those that D-Bus bindings know by themselves. Outside
+// the namespace, where the generated proxies look for them.
+
+/// Permission by name: "yes", "auth", "no" or "unknown".
+using PermissionMap = QMap<QString, QString>;
+
+/// D-Bus "(uu)".
+struct DeviceStateReason
+{
+    quint32 state = 0;
+    quint32 reason = 0;
+};
+
+Q_DECLARE_METATYPE(DeviceStateReason)
+
+QDBusArgument& operator<<(QDBusArgument& argument, const DeviceStateReason& value);
+const QDBusArgument& operator>>(const QDBusArgument& argument, DeviceStateReason& value);
+
+/// Tells the D-Bus binding of these types; before the first call that uses one. Any thread, any number of
+/// times.
+void registerDBusTypes();

@@ -1,0 +1,183 @@
+#include "platform/linux/networkmanager/NetworkManager.h"
+
+#include "platform/linux/networkmanager/DBusTypes.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusVariant>
+#include <QDeadlineTimer>
+#include <QThread>
+
+#include <org.freedesktop.NetworkManager.AccessPoint.h>
+#include <org.freedesktop.NetworkManager.Device.Wireless.h>
+#include <org.freedesktop.NetworkManager.Device.h>
+#include <org.freedesktop.NetworkManager.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using ManagerProxy = OrgFreedesktopNetworkManagerInterface;
+using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
+using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
+using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
+
+constexpr int callTimeoutMilliseconds = 10'000;
+constexpr int switchTimeoutMilliseconds = 5'000;
+constexpr unsigned long switchPollMilliseconds = 50;
+
+// One per call: a proxy keeps the error of an earlier call after a later one that succeeded.
+template <typename Proxy>
+class Call
+{
+public:
+    Call(const BusConnection& bus, const QString& path)
+        : m_proxy(NetworkManager::serviceName, path, bus.connection())
+    {
+        m_proxy.setTimeout(callTimeoutMilliseconds);
+    }
+
+    Proxy& proxy() { return m_proxy; }
+
+    /// Only after a property was read or written.
+    [[nodiscard]] std::optional<RemoteError> failure() const
+    {
+        const auto error = m_proxy.lastError();
+        return error.isValid() ? std::optional(remoteError(error)) : std::nullopt;
+    }
+
+private:
+    Proxy m_proxy;
+};
+
+template <typename Value, typename Proxy>
+Result<Value> read(const BusConnection& bus, const QString& path, Value (Proxy::*getter)() const)
+{
+    Call<Proxy> call(bus, path);
+    auto value = (call.proxy().*getter)();
+    if (const auto failure = call.failure()) {
+        return failure->error();
+    }
+    return value;
+}
+
+} // namespace
+
+const QString NetworkManager::serviceName = u"org.freedesktop.NetworkManager"_s;
+const QString NetworkManager::objectPath = u"/org/freedesktop/NetworkManager"_s;
+
+NetworkManager::NetworkManager(const BusAddress& address) : m_bus(address)
+{
+    registerDBusTypes();
+}
+
+NetworkManager::~NetworkManager() = default;
+
+bool NetworkManager::isRunning() const
+{
+    const auto* bus = m_bus.connection().interface();
+    return bus != nullptr && bus->isServiceRegistered(serviceName).value();
+}
+
+Result<RadioSwitches> NetworkManager::radioSwitches() const
+{
+    const auto enabled = read(m_bus, objectPath, &ManagerProxy::wirelessEnabled);
+    if (!enabled.ok()) {
+        return enabled.error();
+    }
+    const auto hardwareEnabled = read(m_bus, objectPath, &ManagerProxy::wirelessHardwareEnabled);
+    if (!hardwareEnabled.ok()) {
+        return hardwareEnabled.error();
+    }
+    return RadioSwitches{.enabled = enabled.value(), .hardwareEnabled = hardwareEnabled.value()};
+}
+
+std::optional<RemoteError> NetworkManager::setWirelessEnabled(bool enabled) const
+{
+    Call<ManagerProxy> call(m_bus, objectPath);
+    call.proxy().setWirelessEnabled(enabled);
+    if (auto failure = call.failure()) {
+        return failure;
+    }
+    // The answer to a property's change does not wait for the permission check behind it.
+    for (QDeadlineTimer deadline(switchTimeoutMilliseconds); !deadline.hasExpired();
+         QThread::msleep(switchPollMilliseconds)) {
+        const auto now = read(m_bus, objectPath, &ManagerProxy::wirelessEnabled);
+        if (!now.ok()) {
+            return RemoteError{RemoteFailure::other, now.error().description};
+        }
+        if (now.value() == enabled) {
+            return {};
+        }
+    }
+    return RemoteError{RemoteFailure::noAnswer, u"NetworkManager did not switch the Wi-Fi radio"_s};
+}
+
+Result<std::optional<ManagedDevice>> NetworkManager::device(const QString& interfaceName) const
+{
+    Call<ManagerProxy> call(m_bus, objectPath);
+    auto path = call.proxy().GetDeviceByIpIface(interfaceName);
+    path.waitForFinished();
+    if (path.isError()) {
+        const auto error = remoteError(path.error());
+        if (error.failure == RemoteFailure::unknownObject) {
+            return std::optional<ManagedDevice>();
+        }
+        return error.error();
+    }
+    const auto state = read(m_bus, path.value().path(), &DeviceProxy::stateReason);
+    if (!state.ok()) {
+        return state.error();
+    }
+    return std::optional(ManagedDevice{.path = path.value().path(),
+                                       .state = static_cast<DeviceState>(state.value().state),
+                                       .reason = state.value().reason});
+}
+
+Result<std::optional<std::chrono::milliseconds>> NetworkManager::lastScan(const QString& devicePath) const
+{
+    const auto milliseconds = read(m_bus, devicePath, &WirelessProxy::lastScan);
+    if (!milliseconds.ok()) {
+        return milliseconds.error();
+    }
+    // NetworkManager's "never" is -1.
+    return milliseconds.value() < 0 ? std::nullopt
+                                    : std::optional(std::chrono::milliseconds(milliseconds.value()));
+}
+
+std::optional<RemoteError> NetworkManager::requestScan(const QString& devicePath,
+                                                       const std::optional<QByteArray>& ssid) const
+{
+    Call<WirelessProxy> call(m_bus, devicePath);
+    auto reply = call.proxy().RequestScan(scanOptions(ssid));
+    reply.waitForFinished();
+    return reply.isError() ? std::optional(remoteError(reply.error())) : std::nullopt;
+}
+
+Result<std::optional<QString>> NetworkManager::activeAccessPointAddress(const QString& devicePath) const
+{
+    const auto path = read(m_bus, devicePath, &WirelessProxy::activeAccessPoint);
+    if (!path.ok()) {
+        return path.error();
+    }
+    // The root path stands for "none".
+    if (path.value().path() == u"/"_s) {
+        return std::optional<QString>();
+    }
+    const auto address = read(m_bus, path.value().path(), &AccessPointProxy::hwAddress);
+    if (!address.ok()) {
+        return address.error();
+    }
+    return std::optional(address.value().toLower());
+}
+
+QVariantMap scanOptions(const std::optional<QByteArray>& ssid)
+{
+    if (!ssid) {
+        return {};
+    }
+    return {{u"ssids"_s, QVariant::fromValue(QList<QByteArray>{*ssid})}};
+}
+
+} // namespace aerolith

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "platform/linux/networkmanager/BusConnection.h"
+#include "platform/linux/networkmanager/RemoteError.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <chrono>
+#include <optional>
+
+namespace aerolith {
+
+/// The radio switches of all Wi-Fi devices together.
+struct RadioSwitches
+{
+    bool enabled = true;
+    /// False while a switch or key of the machine keeps the radio off.
+    bool hardwareEnabled = true;
+
+    [[nodiscard]] bool on() const { return enabled && hardwareEnabled; }
+};
+
+/// NetworkManager's device states that matter here, by their numbers on the bus. Between `disconnected` and
+/// `activated` it is joining a network, beyond `activated` it is leaving one.
+enum class DeviceState : quint32
+{
+    unknown = 0,
+    unmanaged = 10,
+    unavailable = 20,
+    disconnected = 30,
+    activated = 100,
+    deactivating = 110,
+    failed = 120,
+};
+
+/// A device as NetworkManager has it.
+struct ManagedDevice
+{
+    /// Its object on the bus: valid until the device goes or NetworkManager ends.
+    QString path;
+    /// May be a number that has no name.
+    DeviceState state = DeviceState::unknown;
+    /// Why it is in that state, as NetworkManager numbers the reasons.
+    quint32 reason = 0;
+};
+
+/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most ten
+/// seconds. To be made and used on the same thread; needs no event loop.
+class NetworkManager
+{
+public:
+    static const QString serviceName;
+    static const QString objectPath;
+
+    explicit NetworkManager(const BusAddress& address);
+    ~NetworkManager();
+
+    /// Also false when there is no bus.
+    [[nodiscard]] bool isRunning() const;
+
+    [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
+
+    /// Switches the radio of every Wi-Fi device and waits, at most five more seconds, until it reports the
+    /// change.
+    [[nodiscard]] std::optional<RemoteError> setWirelessEnabled(bool enabled) const;
+
+    /// Absent when NetworkManager has no device of that interface name.
+    [[nodiscard]] Result<std::optional<ManagedDevice>> device(const QString& interfaceName) const;
+
+    /// When the device's newest scan ended, since boot with sleep included; absent when it has not scanned
+    /// yet.
+    [[nodiscard]] Result<std::optional<std::chrono::milliseconds>> lastScan(const QString& devicePath) const;
+
+    /// Has the device scan, for the name given too when there is one; returns when the request is accepted,
+    /// which is before the scan and, by NetworkManager's own limit of scans, up to 8 seconds before its
+    /// start.
+    [[nodiscard]] std::optional<RemoteError> requestScan(const QString& devicePath,
+                                                         const std::optional<QByteArray>& ssid) const;
+
+    /// What NetworkManager says is the address of the access point that the device is joined to, lower case;
+    /// absent when it names none.
+    [[nodiscard]] Result<std::optional<QString>> activeAccessPointAddress(const QString& devicePath) const;
+
+private:
+    BusConnection m_bus;
+};
+
+/// The options of NetworkManager's RequestScan for a full scan, or for one that asks for a name too.
+[[nodiscard]] QVariantMap scanOptions(const std::optional<QByteArray>& ssid);
+
+} // namespace aerolith

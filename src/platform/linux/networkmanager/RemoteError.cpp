@@ -1,0 +1,74 @@
+#include "platform/linux/networkmanager/RemoteError.h"
+
+#include <QDBusError>
+
+#include <algorithm>
+#include <array>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct NamedFailure
+{
+    QLatin1StringView name;
+    RemoteFailure failure;
+};
+
+constexpr std::array namedFailures = {
+    NamedFailure{"org.freedesktop.DBus.Error.ServiceUnknown"_L1, RemoteFailure::notRunning},
+    NamedFailure{"org.freedesktop.DBus.Error.NameHasNoOwner"_L1, RemoteFailure::notRunning},
+    NamedFailure{"org.freedesktop.DBus.Error.Disconnected"_L1, RemoteFailure::notRunning},
+    NamedFailure{"org.freedesktop.DBus.Error.NoServer"_L1, RemoteFailure::notRunning},
+    NamedFailure{"org.freedesktop.DBus.Error.NoReply"_L1, RemoteFailure::noAnswer},
+    NamedFailure{"org.freedesktop.DBus.Error.Timeout"_L1, RemoteFailure::noAnswer},
+    NamedFailure{"org.freedesktop.DBus.Error.TimedOut"_L1, RemoteFailure::noAnswer},
+    NamedFailure{"org.freedesktop.DBus.Error.AccessDenied"_L1, RemoteFailure::permissionDenied},
+    NamedFailure{"org.freedesktop.NetworkManager.PermissionDenied"_L1, RemoteFailure::permissionDenied},
+    NamedFailure{"org.freedesktop.NetworkManager.Device.NotAllowed"_L1, RemoteFailure::notAllowed},
+    NamedFailure{"org.freedesktop.NetworkManager.UnknownDevice"_L1, RemoteFailure::unknownObject},
+    NamedFailure{"org.freedesktop.DBus.Error.UnknownObject"_L1, RemoteFailure::unknownObject},
+    NamedFailure{"org.freedesktop.DBus.Error.UnknownInterface"_L1, RemoteFailure::unknownObject},
+    NamedFailure{"org.freedesktop.DBus.Error.UnknownMethod"_L1, RemoteFailure::unknownObject},
+    NamedFailure{"org.freedesktop.DBus.Error.InvalidSignature"_L1, RemoteFailure::wrongAnswer},
+};
+
+RemoteFailure failureNamed(const QString& name)
+{
+    const auto* found =
+        std::ranges::find_if(namedFailures, [&](const auto& row) { return row.name == name; });
+    return found == namedFailures.end() ? RemoteFailure::other : found->failure;
+}
+
+QString describe(RemoteFailure failure, const QString& message)
+{
+    switch (failure) {
+    case RemoteFailure::notRunning:
+        return u"NetworkManager is not running"_s;
+    case RemoteFailure::noAnswer:
+        return u"NetworkManager does not answer"_s;
+    case RemoteFailure::permissionDenied:
+        return u"NetworkManager does not permit this: %1"_s.arg(message);
+    case RemoteFailure::notAllowed:
+        return u"NetworkManager cannot do this now: %1"_s.arg(message);
+    case RemoteFailure::unknownObject:
+        return u"NetworkManager does not know the device: %1"_s.arg(message);
+    case RemoteFailure::wrongAnswer:
+        return u"NetworkManager gave an answer of a wrong type: %1"_s.arg(message);
+    case RemoteFailure::other:
+        break;
+    }
+    return u"NetworkManager reports an error: %1"_s.arg(message);
+}
+
+} // namespace
+
+RemoteError remoteError(const QDBusError& error)
+{
+    const auto failure = failureNamed(error.name());
+    return {failure, describe(failure, error.message())};
+}
+
+} // namespace aerolith

@@ -1,0 +1,205 @@
+#include "platform/linux/networkmanager/FakeNetworkManager.h"
+
+#include "platform/linux/networkmanager/DBusTypes.h"
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QMutexLocker>
+
+#include <atomic>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto managerPath = u"/org/freedesktop/NetworkManager"_s;
+const auto managerInterface = u"org.freedesktop.NetworkManager"_s;
+
+QString uniqueConnectionName()
+{
+    static std::atomic<int> count = 0;
+    return u"fake-networkmanager-%1"_s.arg(++count);
+}
+
+// "Get Wireless.LastScan" for a property's call, else the method's name.
+QString nameOf(const QDBusMessage& call)
+{
+    if (call.interface() != u"org.freedesktop.DBus.Properties"_s) {
+        return call.member();
+    }
+    const auto interface = call.arguments().value(0).toString();
+    return u"%1 %2.%3"_s.arg(call.member(), interface.section(u'.', -1),
+                             call.arguments().value(1).toString());
+}
+
+} // namespace
+
+const QString FakeNetworkManager::devicePath = u"/org/freedesktop/NetworkManager/Devices/2"_s;
+const QString FakeNetworkManager::accessPointPath = u"/org/freedesktop/NetworkManager/AccessPoint/7"_s;
+
+FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
+    : m_connectionName(uniqueConnectionName())
+    , m_properties{{u"NetworkManager.WirelessEnabled"_s, true},
+                   {u"NetworkManager.WirelessHardwareEnabled"_s, true},
+                   {u"Device.StateReason"_s, QVariant::fromValue(DeviceStateReason{30, 0})},
+                   {u"Wireless.LastScan"_s, qlonglong{-1}},
+                   {u"Wireless.ActiveAccessPoint"_s, QVariant::fromValue(QDBusObjectPath(u"/"_s))},
+                   {u"AccessPoint.HwAddress"_s, u"02:00:00:00:07:00"_s}}
+    , m_permissions{{u"org.freedesktop.NetworkManager.wifi.scan"_s, u"yes"_s},
+                    {u"org.freedesktop.NetworkManager.enable-disable-wifi"_s, u"no"_s}}
+{
+    registerDBusTypes();
+    moveToThread(&m_thread);
+    m_thread.start();
+    QMetaObject::invokeMethod(
+        this,
+        [this, busAddress] {
+            auto connection = QDBusConnection::connectToBus(busAddress, m_connectionName);
+            connection.registerVirtualObject(managerPath, this, QDBusConnection::SubPath);
+            connection.registerService(managerInterface);
+        },
+        Qt::BlockingQueuedConnection);
+}
+
+FakeNetworkManager::~FakeNetworkManager()
+{
+    end();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void FakeNetworkManager::end()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { leaveBus(); }, Qt::BlockingQueuedConnection);
+}
+
+void FakeNetworkManager::leaveBus()
+{
+    QDBusConnection::disconnectFromBus(m_connectionName);
+}
+
+void FakeNetworkManager::setScanPermission(const QString& permission)
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_permissions[u"org.freedesktop.NetworkManager.wifi.scan"_s] = permission;
+    }
+    emitCheckPermissions();
+}
+
+void FakeNetworkManager::emitCheckPermissions()
+{
+    QMetaObject::invokeMethod(this, [this] {
+        QDBusConnection(m_connectionName)
+            .send(QDBusMessage::createSignal(managerPath, managerInterface, u"CheckPermissions"_s));
+    });
+}
+
+void FakeNetworkManager::setProperty(const QString& name, const QVariant& value)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_properties[name] = value;
+}
+
+QVariant FakeNetworkManager::property(const QString& name) const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_properties.value(name);
+}
+
+void FakeNetworkManager::on(const QString& member, const Reaction& reaction)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_reactions[member] = reaction;
+}
+
+QList<QDBusMessage> FakeNetworkManager::calls(const QString& member) const
+{
+    const QMutexLocker lock(&m_mutex);
+    QList<QDBusMessage> found;
+    for (const auto& [name, call] : m_calls) {
+        if (name == member) {
+            found.append(call);
+        }
+    }
+    return found;
+}
+
+QString FakeNetworkManager::introspect(const QString&) const
+{
+    return {};
+}
+
+bool FakeNetworkManager::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)
+{
+    const auto answered = answer(nameOf(message), message);
+    if (answered.type() == QDBusMessage::InvalidMessage) {
+        leaveBus();
+    } else {
+        connection.send(answered);
+    }
+    return true;
+}
+
+QDBusMessage FakeNetworkManager::answer(const QString& member, const QDBusMessage& call)
+{
+    Reaction reaction;
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_calls.append({member, call});
+        reaction = m_reactions.value(member);
+    }
+    return reaction ? reaction(call) : usualAnswer(member, call);
+}
+
+QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusMessage& call)
+{
+    const QMutexLocker lock(&m_mutex);
+    const auto property = member.section(u' ', 1);
+    if (member.startsWith(u"Get "_s)) {
+        return m_properties.contains(property)
+                   ? call.createReply(QVariant::fromValue(QDBusVariant(m_properties[property])))
+                   : call.createErrorReply(QDBusError::UnknownProperty, property);
+    }
+    if (member.startsWith(u"Set "_s)) {
+        m_properties[property] = call.arguments().at(2).value<QDBusVariant>().variant();
+        return call.createReply();
+    }
+    if (member == u"GetPermissions"_s) {
+        return call.createReply(QVariant::fromValue(m_permissions));
+    }
+    if (member == u"GetDevices"_s) {
+        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(devicePath)}));
+    }
+    if (member == u"GetDeviceByIpIface"_s) {
+        return call.arguments().value(0) == u"wlan0"_s
+                   ? call.createReply(QVariant::fromValue(QDBusObjectPath(devicePath)))
+                   : call.createErrorReply(u"org.freedesktop.NetworkManager.UnknownDevice"_s,
+                                           u"No device found for the requested iface."_s);
+    }
+    if (member == u"RequestScan"_s && call.path() == devicePath) {
+        return call.createReply();
+    }
+    return call.createErrorReply(QDBusError::UnknownMethod, member);
+}
+
+FakeNetworkManager::Reaction vanish()
+{
+    return [](const QDBusMessage&) { return QDBusMessage(); };
+}
+
+FakeNetworkManager::Reaction refuse(const QString& errorName)
+{
+    return [errorName](const QDBusMessage& call) { return call.createErrorReply(errorName, u"refused"_s); };
+}
+
+FakeNetworkManager::Reaction reply(const QVariant& value)
+{
+    return [value](const QDBusMessage& call) { return call.createReply(value); };
+}
+
+} // namespace aerolith

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QHash>
+#include <QMap>
+#include <QMutex>
+#include <QString>
+#include <QThread>
+#include <QVariant>
+
+#include <functional>
+
+namespace aerolith {
+
+/// NetworkManager on a bus of the test's own: one Wi-Fi device, wlan0, disconnected, radio on, every
+/// permission. It answers on a thread of its own, so that a test may block in a call to it. What it answers
+/// is set by any thread.
+class FakeNetworkManager : public QDBusVirtualObject
+{
+public:
+    /// What to make of a call: its reply or error; an invalid message ends the service without an answer.
+    using Reaction = std::function<QDBusMessage(const QDBusMessage& call)>;
+
+    static const QString devicePath;
+    static const QString accessPointPath;
+
+    /// Stands on the bus until the end of the object, or of end().
+    explicit FakeNetworkManager(const QString& busAddress);
+    ~FakeNetworkManager() override;
+
+    /// Leaves the bus as a process does that is killed.
+    void end();
+
+    /// The permission to scan; tells the bus that permissions have changed.
+    void setScanPermission(const QString& permission);
+    void emitCheckPermissions();
+
+    /// By the last part of the interface's name and the property's, such as "Wireless.LastScan".
+    void setProperty(const QString& name, const QVariant& value);
+    [[nodiscard]] QVariant property(const QString& name) const;
+
+    /// Replaces the answer to a method, or by "Get Wireless.LastScan" and "Set ..." the one to a property's
+    /// call.
+    void on(const QString& member, const Reaction& reaction);
+
+    /// Calls of that name so far, as on() names them.
+    [[nodiscard]] QList<QDBusMessage> calls(const QString& member) const;
+
+    [[nodiscard]] QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+private:
+    void leaveBus();
+    [[nodiscard]] QDBusMessage answer(const QString& member, const QDBusMessage& call);
+    [[nodiscard]] QDBusMessage usualAnswer(const QString& member, const QDBusMessage& call);
+
+    const QString m_connectionName;
+    mutable QMutex m_mutex;
+    QMap<QString, QVariant> m_properties;
+    QMap<QString, QString> m_permissions;
+    QHash<QString, Reaction> m_reactions;
+    QList<std::pair<QString, QDBusMessage>> m_calls;
+    QThread m_thread;
+};
+
+/// Reactions that several tests use.
+[[nodiscard]] FakeNetworkManager::Reaction vanish();
+[[nodiscard]] FakeNetworkManager::Reaction refuse(const QString& errorName);
+[[nodiscard]] FakeNetworkManager::Reaction reply(const QVariant& value);
+
+} // namespace aerolith

@@ -1,0 +1,169 @@
+#include "platform/linux/networkmanager/ScanPermission.h"
+
+#include "platform/linux/networkmanager/DBusTypes.h"
+#include "platform/linux/networkmanager/FakeNetworkManager.h"
+#include "platform/linux/networkmanager/MainLoop.h"
+#include "platform/linux/networkmanager/PrivateBus.h"
+
+#include <QDBusObjectPath>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace aerolith {
+namespace {
+
+using namespace Qt::StringLiterals;
+using State = ScanPermission::State;
+
+class ScanPermissionTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { startMainLoop(); }
+
+    void start()
+    {
+        m_permission.emplace(m_bus.address(), [this] { ++m_changes; });
+    }
+
+    void startFake(const QString& permission)
+    {
+        m_fake.emplace(m_bus.address());
+        m_fake->setScanPermission(permission);
+    }
+
+    [[nodiscard]] bool becomes(State state)
+    {
+        return handleEventsUntil([&] { return m_permission->state() == state; });
+    }
+
+    // A change to and fro: everything the service said before has been taken in by then.
+    [[nodiscard]] bool takesInEverything(qsizetype reads)
+    {
+        return handleEventsUntil([&] { return m_fake->calls(u"GetPermissions"_s).size() >= reads; });
+    }
+
+    PrivateBus m_bus;
+    std::optional<FakeNetworkManager> m_fake;
+    std::optional<ScanPermission> m_permission;
+    int m_changes = 0;
+};
+
+TEST_F(ScanPermissionTest, readsThePermissionWhenMade)
+{
+    start();
+    EXPECT_EQ(m_permission->state(), State::granted) << "nobody there to refuse";
+    m_permission.reset();
+
+    for (const auto& [permission, state] : {std::pair{u"yes"_s, State::granted},
+                                            {u"auth"_s, State::undecided},
+                                            {u"no"_s, State::refused},
+                                            {u"unknown"_s, State::refused}}) {
+        startFake(permission);
+        start();
+        EXPECT_EQ(m_permission->state(), state) << qPrintable(permission);
+        m_permission.reset();
+        m_fake.reset();
+    }
+    startFake(u"yes"_s);
+    m_fake->on(u"GetPermissions"_s, reply(u"yes"_s));
+    start();
+    EXPECT_EQ(m_permission->state(), State::refused) << "an answer of a wrong type";
+    EXPECT_EQ(m_changes, 0);
+}
+
+TEST_F(ScanPermissionTest, followsThePermissionAndTheService)
+{
+    startFake(u"yes"_s);
+    start();
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused));
+    m_fake.reset();
+    EXPECT_TRUE(becomes(State::granted));
+    startFake(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused));
+    m_fake->on(u"GetPermissions"_s, vanish());
+    m_fake->emitCheckPermissions();
+    EXPECT_TRUE(becomes(State::granted));
+    EXPECT_EQ(m_changes, 4);
+}
+
+TEST_F(ScanPermissionTest, tellsOnlyOfRealChanges)
+{
+    startFake(u"yes"_s);
+    start();
+    m_fake->emitCheckPermissions();
+    m_fake->emitCheckPermissions();
+    ASSERT_TRUE(takesInEverything(3));
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused));
+    EXPECT_EQ(m_changes, 1);
+}
+
+TEST_F(ScanPermissionTest, askingLetsTheSystemAskTheUser)
+{
+    startFake(u"auth"_s);
+    start();
+    m_permission->ask();
+    m_permission->ask();
+    EXPECT_EQ(m_permission->state(), State::undecided);
+    EXPECT_TRUE(becomes(State::granted));
+    const auto requests = m_fake->calls(u"RequestScan"_s);
+    ASSERT_EQ(requests.size(), 1);
+    EXPECT_TRUE(requests[0].isInteractiveAuthorizationAllowed());
+
+    // What was proven stays proven while the permission reads the same, and no longer.
+    m_fake->emitCheckPermissions();
+    ASSERT_TRUE(takesInEverything(2));
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused));
+    m_fake->setScanPermission(u"auth"_s);
+    EXPECT_TRUE(becomes(State::undecided));
+    EXPECT_EQ(m_changes, 3);
+}
+
+TEST_F(ScanPermissionTest, aRefusalIsKeptAndAnUnableDeviceIsNone)
+{
+    startFake(u"auth"_s);
+    start();
+    m_fake->on(u"RequestScan"_s, refuse(u"org.freedesktop.NetworkManager.PermissionDenied"_s));
+    m_permission->ask();
+    EXPECT_TRUE(becomes(State::refused));
+    m_permission->ask();
+    handleWaitingEvents();
+    EXPECT_EQ(m_fake->calls(u"RequestScan"_s).size(), 1);
+
+    m_permission.reset();
+    m_fake->on(u"RequestScan"_s, refuse(u"org.freedesktop.NetworkManager.Device.NotAllowed"_s));
+    start();
+    m_permission->ask();
+    EXPECT_TRUE(becomes(State::granted));
+}
+
+TEST_F(ScanPermissionTest, asksTheDeviceThatUnderstandsIt)
+{
+    startFake(u"auth"_s);
+    const QList paths{QDBusObjectPath(u"/org/freedesktop/NetworkManager/Devices/1"_s),
+                      QDBusObjectPath(FakeNetworkManager::devicePath)};
+    m_fake->on(u"GetDevices"_s, reply(QVariant::fromValue(paths)));
+    start();
+    m_permission->ask();
+    EXPECT_TRUE(becomes(State::granted));
+    EXPECT_EQ(m_fake->calls(u"RequestScan"_s).size(), 2);
+}
+
+TEST_F(ScanPermissionTest, goesAwayWhileTheUserIsAsked)
+{
+    startFake(u"auth"_s);
+    start();
+    m_permission->ask();
+    m_permission.reset();
+    m_fake->emitCheckPermissions();
+    handleWaitingEvents();
+    EXPECT_EQ(m_changes, 0);
+}
+
+} // namespace
+} // namespace aerolith
