@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/// The symbols of the views, by name ("lock", "checkmark.circle.fill"). Each is a file in symbols/, one shape
+/// in one colour; CMakeLists.txt lists them, and symbols/README.md tells how one is drawn. GUI thread.
+namespace aerolith::Symbols {
+
+[[nodiscard]] bool exists(const QString& name);
+
+/// The symbol in `color`, `size` device-independent pixels square, drawn for the device's own pixels. Cached.
+/// Empty for a name that there is no symbol for.
+[[nodiscard]] QPixmap pixmap(const QString& name, int size, const QColor& color, qreal devicePixelRatio);
+
+/// Draws the symbol into the middle of `frame`, as large as the frame's height.
+void paint(QPainter& painter, const QRectF& frame, const QString& name, const QColor& color);
+
+} // namespace aerolith::Symbols

@@ -1,0 +1,87 @@
+#include "ui/common/Theme.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace aerolith::Theme {
+
+namespace {
+
+/// As WCAG defines it for sRGB.
+double relativeLuminance(const QColor& color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+} // namespace
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightnessF() < 0.5F;
+}
+
+QColor accent(const QPalette& palette)
+{
+    return palette.color(QPalette::Highlight);
+}
+
+QColor gray()
+{
+    return {142, 142, 147};
+}
+
+QColor green(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(48, 209, 88) : QColor(52, 199, 89);
+}
+
+QColor red(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(255, 69, 58) : QColor(255, 59, 48);
+}
+
+QColor secondary(const QColor& text, const QColor& background)
+{
+    constexpr double step = 0.05;
+    for (double opacity = secondaryOpacity; opacity < 1; opacity += step) {
+        const QColor color = blended(text, background, opacity);
+        if (contrast(color, background) >= readableContrast) {
+            return color;
+        }
+    }
+    return text;
+}
+
+QColor withOpacity(QColor color, double opacity)
+{
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+QColor blended(const QColor& color, const QColor& background, double opacity)
+{
+    const auto mix = [opacity](int over, int under) {
+        return static_cast<int>(std::lround(over * opacity + under * (1 - opacity)));
+    };
+    return {mix(color.red(), background.red()), mix(color.green(), background.green()),
+            mix(color.blue(), background.blue())};
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const auto [darker, lighter] = std::minmax({relativeLuminance(a), relativeLuminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QFont font(const QFont& base, int pixelSize, QFont::Weight weight)
+{
+    QFont sized = base;
+    sized.setPixelSize(pixelSize);
+    sized.setWeight(weight);
+    return sized;
+}
+
+} // namespace aerolith::Theme

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+/// Colours and fonts of the views, all derived from the user's own palette and font. The palette is the one
+/// of the widget that is drawn, so that light, dark and a change between them are followed.
+namespace aerolith::Theme {
+
+/// Contrast that small text needs to be read, as the ratio defined by WCAG.
+inline constexpr double readableContrast = 4.5;
+
+/// Opacity of secondary text over its background, where that leaves it readable.
+inline constexpr double secondaryOpacity = 0.65;
+
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+[[nodiscard]] QColor accent(const QPalette& palette);
+
+/// Neutral, the same in light and dark.
+[[nodiscard]] QColor gray();
+
+[[nodiscard]] QColor green(const QPalette& palette);
+
+[[nodiscard]] QColor red(const QPalette& palette);
+
+/// The text colour at `secondaryOpacity` over `background`, or at the lowest opacity above it that is
+/// readable there; the full text colour where even that is not. Opaque.
+[[nodiscard]] QColor secondary(const QColor& text, const QColor& background);
+
+[[nodiscard]] QColor withOpacity(QColor color, double opacity);
+
+/// What is seen when `color` is laid over the opaque `background` at `opacity`.
+[[nodiscard]] QColor blended(const QColor& color, const QColor& background, double opacity);
+
+/// From 1, no difference, to 21, black on white. Both opaque.
+[[nodiscard]] double contrast(const QColor& a, const QColor& b);
+
+/// The user's family at a size in device-independent pixels.
+[[nodiscard]] QFont font(const QFont& base, int pixelSize, QFont::Weight weight = QFont::Normal);
+
+} // namespace aerolith::Theme

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ui/main/NetworkListModel.h"
+
+#include <QListView>
+
+#include <optional>
+
+namespace aerolith {
+
+/// The list of access points. What the user sees of it stays put while scans change it: scroll position,
+/// keyboard focus, selection, and the row under the pointer.
+class NetworkListView : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit NetworkListView(QWidget* parent = nullptr);
+
+    void showNetworks(const ShownNetworks& shown);
+
+    /// Highlights the access point, listed or not yet; null for none. Scrolls to it if that is a change.
+    void showSelected(const QString& bssid);
+
+Q_SIGNALS:
+    /// The user has selected an access point, by pointer or keys.
+    void chosen(const WiFiNetwork& network);
+
+protected:
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                       const QEvent* event) const override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+
+private:
+    void restoreFocus(int row);
+    void highlightSelected();
+    void updateHover();
+
+    NetworkListModel m_networks;
+    /// Null when nothing is selected.
+    QString m_selectedBSSID;
+    /// While the program, not the user, changes rows and selection.
+    bool m_updating = false;
+};
+
+} // namespace aerolith

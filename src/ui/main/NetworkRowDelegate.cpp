@@ -1,0 +1,40 @@
+#include "ui/main/NetworkRowDelegate.h"
+
+#include "ui/main/NetworkListModel.h"
+#include "ui/main/NetworkRowView.h"
+
+#include <QApplication>
+#include <QPainter>
+
+namespace aerolith {
+
+namespace {
+
+/// Width that a row asks for: it takes the list's, whatever that is.
+constexpr int anyWidth = 1;
+
+} // namespace
+
+void NetworkRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const
+{
+    QStyleOptionViewItem background = option;
+    // The selection stands for what the rest of the window shows: it does not fade with the focus.
+    background.state |= QStyle::State_Active;
+    const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &background, painter, option.widget);
+
+    auto row = index.data(NetworkListModel::rowRole).value<NetworkRowView>();
+    row.isSelected = option.state.testFlag(QStyle::State_Selected);
+    QPalette palette = option.palette;
+    palette.setCurrentColorGroup(QPalette::Active);
+    painter->setLayoutDirection(option.direction);
+    row.paint(*painter, option.rect, palette, option.font);
+}
+
+QSize NetworkRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
+{
+    return {anyWidth, NetworkRowView::height(option.font)};
+}
+
+} // namespace aerolith
