@@ -16,11 +16,11 @@ namespace aerolith {
 struct PlatformOptions
 {
     /// Absent: the machine's own Wi-Fi.
-    std::optional<Simulation> simulate;
+    std::optional<Simulation> simulate = {};
     /// Where log lines go: stdout or stderr.
     std::FILE* logStream = stdout;
     /// The settings file; absent: the user's own.
-    std::optional<QString> settingsPath;
+    std::optional<QString> settingsPath = {};
 };
 
 /// The platform that a program runs on, and the only place that knows which one it is. Main thread; a
@@ -35,6 +35,10 @@ public:
 
     /// References to what this object owns.
     [[nodiscard]] virtual Surroundings surroundings() = 0;
+
+    /// Ends the scans that are under way, and every later one, as soon as the platform can: to be called
+    /// before the engine is destroyed, which waits for its scan. Any thread.
+    virtual void stopScanning() = 0;
 };
 
 /// Plugs one platform in. The error, an unreadable scenario, names the file, the place and what was expected

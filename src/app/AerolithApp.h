@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/SelectionStore.h"
+#include "model/WiFiScanner.h"
+#include "ui/main/MainWindow.h"
+
+namespace aerolith {
+
+/// The objects that live for the whole process, made once and in this order. A QApplication exists; the
+/// surroundings outlive it. Main thread.
+class AerolithApp
+{
+public:
+    explicit AerolithApp(const Surroundings& surroundings);
+
+    void showMainWindow();
+
+private:
+    SelectionStore m_selectionStore;
+    WiFiScanner m_scanner;
+    MainWindow m_mainWindow;
+};
+
+} // namespace aerolith

@@ -1,0 +1,76 @@
+#include "app/AerolithApp.h"
+#include "app/CommandLine.h"
+#include "app/DisplayCheck.h"
+#include "app/TerminationSignals.h"
+#include "platform/qt/StandardLog.h"
+#include "plug/PluggedPlatform.h"
+
+#include <QApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <optional>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int wrongArguments = 2;
+
+int refuse(const Error& error)
+{
+    std::fprintf(stderr, "aerolith: %s\n", qUtf8Printable(escapedForLog(error.description)));
+    return wrongArguments;
+}
+
+int run(int argc, char** argv, const PlatformOptions& options)
+{
+    // The program takes its own arguments only, none of Qt's.
+    argc = 1;
+    std::optional<DisplayCheck> displayCheck(std::in_place);
+    const QApplication application(argc, argv);
+    displayCheck.reset();
+    QApplication::setApplicationName(u"Aerolith"_s);
+    QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
+    QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);
+
+    const auto platform = plugPlatform(options);
+    if (!platform.ok()) {
+        return refuse(platform.error());
+    }
+    const TerminationSignals terminationSignals([] { QApplication::exit(0); });
+    AerolithApp app(platform.value()->surroundings());
+    app.showMainWindow();
+    const int status = QApplication::exec();
+    platform.value()->stopScanning();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Standard output may be a pipe that its reader closes.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    const auto commandLine = parseCommandLine(arguments);
+    if (!commandLine.ok()) {
+        return refuse(commandLine.error());
+    }
+    switch (commandLine.value().action) {
+    case CommandLine::Action::showHelp:
+        std::fputs(qUtf8Printable(helpText()), stdout);
+        return 0;
+    case CommandLine::Action::showVersion:
+        std::puts("aerolith " AEROLITH_VERSION);
+        return 0;
+    case CommandLine::Action::run:
+        break;
+    }
+    return run(argc, argv, {.simulate = commandLine.value().simulate});
+}

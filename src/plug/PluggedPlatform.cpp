@@ -1,0 +1,76 @@
+#include "plug/PluggedPlatform.h"
+
+#include "platform/qt/Locale.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/SettingsFile.h"
+#include "platform/qt/StandardLog.h"
+#include "platform/qt/SystemClock.h"
+#include "platform/qt/WorkQueue.h"
+#include "platform/simulated/Neighbourhood.h"
+#include "platform/simulated/ScenarioReader.h"
+#include "platform/simulated/SimulatedRadio.h"
+
+#include <utility>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A machine's Wi-Fi, with what Qt provides around it.
+template <typename Machine>
+class Plugged : public PluggedPlatform
+{
+public:
+    template <typename... MachineArguments>
+    explicit Plugged(const PlatformOptions& options, MachineArguments&&... arguments)
+        : m_log(options.logStream)
+        , m_settings(options.settingsPath.value_or(SettingsFile::userPath()), m_log)
+        , m_machine(std::forward<MachineArguments>(arguments)..., m_mainQueue)
+    {
+    }
+
+    [[nodiscard]] Surroundings surroundings() override
+    {
+        return {.wifiClient = m_machine.wifiClient(),
+                .locationManager = m_machine.locationManager(),
+                .userDefaults = m_settings,
+                .mainQueue = m_mainQueue,
+                .makeSerialQueue = [](const QString& label) { return std::make_unique<WorkQueue>(label); },
+                .clock = m_clock,
+                .log = m_log,
+                .locale = environmentLocale()};
+    }
+
+    void stopScanning() override { m_machine.stopScanning(); }
+
+private:
+    StandardLog m_log;
+    SettingsFile m_settings;
+    SystemClock m_clock;
+    QtMainQueue m_mainQueue;
+    /// Last: it may use the others.
+    Machine m_machine;
+};
+
+Result<Scenario> scenarioOf(const Simulation& simulation)
+{
+    return simulation.scenarioFile ? readScenario(*simulation.scenarioFile) : neighbourhood();
+}
+
+} // namespace
+
+Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const PlatformOptions& options)
+{
+    if (!options.simulate) {
+        return Error{u"This build knows simulated radios only: use --simulate"_s};
+    }
+    const Result<Scenario> scenario = scenarioOf(*options.simulate);
+    if (!scenario.ok()) {
+        return scenario.error();
+    }
+    return {std::make_unique<Plugged<SimulatedRadio>>(options, scenario.value())};
+}
+
+} // namespace aerolith
