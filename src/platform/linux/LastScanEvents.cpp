@@ -1,0 +1,34 @@
+#include "platform/linux/LastScanEvents.h"
+
+#include <thread>
+
+namespace aerolith {
+
+using nl80211::ScanStage;
+
+LastScanEvents::LastScanEvents(ScanService& service, std::chrono::milliseconds interval)
+    : m_service(service), m_interval(interval), m_lastScan(service.lastScan())
+{
+}
+
+Result<std::optional<ScanStage>> LastScanEvents::wait(Deadline deadline)
+{
+    if (m_endToTell) {
+        m_endToTell = false;
+        return std::optional(ScanStage::finished);
+    }
+    for (;;) {
+        const auto lastScan = m_service.lastScan();
+        if (lastScan && lastScan != m_lastScan) {
+            m_lastScan = lastScan;
+            m_endToTell = true;
+            return std::optional(ScanStage::started);
+        }
+        if (Deadline::clock::now() >= deadline) {
+            return std::optional<ScanStage>();
+        }
+        std::this_thread::sleep_for(m_interval);
+    }
+}
+
+} // namespace aerolith

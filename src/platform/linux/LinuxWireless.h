@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Log.h"
+#include "platform/Result.h"
+#include "platform/linux/networkmanager/BusConnection.h"
+#include "platform/linux/nl80211/Nl80211.h"
+
+#include <QString>
+
+#include <atomic>
+#include <memory>
+
+namespace aerolith {
+
+/// What the interfaces of one machine work with. Any thread.
+struct LinuxWireless
+{
+    LinuxWireless(std::unique_ptr<nl80211::Nl80211> ownedKernel, BusAddress busAddress,
+                  QString systemFilesPath, Log& lineLog);
+
+    std::unique_ptr<nl80211::Nl80211> kernel;
+    /// Where NetworkManager is.
+    BusAddress bus;
+    /// Where sysfs is mounted.
+    QString systemFiles;
+    Log& log;
+    /// Whether it has been logged that NetworkManager's addresses are made up.
+    std::atomic<bool> madeUpAddressLogged = false;
+
+    /// The interface of that name as it is now; an error when it is gone or the kernel cannot be asked.
+    [[nodiscard]] Result<nl80211::InterfaceInfo> interface(const QString& name);
+};
+
+} // namespace aerolith

@@ -1,0 +1,79 @@
+#include "platform/linux/NetworkManagerScan.h"
+
+#include <utility>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using nl80211::ScanTrigger;
+
+NetworkManagerScan::NetworkManagerScan(const NetworkManager& manager, QString interfaceName,
+                                       QString devicePath)
+    : m_manager(manager), m_interfaceName(std::move(interfaceName)), m_devicePath(std::move(devicePath))
+{
+}
+
+Failure NetworkManagerScan::obstacle()
+{
+    const auto switches = m_manager.radioSwitches();
+    if (!switches.ok()) {
+        return switches.error();
+    }
+    if (!switches.value().on()) {
+        return Error{u"The Wi-Fi radio is off"_s};
+    }
+    const auto device = m_manager.device(m_interfaceName);
+    if (!device.ok()) {
+        return device.error();
+    }
+    if (!device.value()) {
+        return Error{u"The Wi-Fi interface %1 is gone"_s.arg(m_interfaceName)};
+    }
+    if (device.value()->state < DeviceState::disconnected) {
+        return Error{u"The Wi-Fi interface %1 is not available"_s.arg(m_interfaceName)};
+    }
+    return {};
+}
+
+Result<ScanTrigger> NetworkManagerScan::request(const std::optional<QByteArray>& ssid)
+{
+    const auto error = m_manager.requestScan(m_devicePath, ssid);
+    if (!error) {
+        return ScanTrigger::started;
+    }
+    switch (error->failure) {
+    case RemoteFailure::permissionDenied:
+        return Error{u"The system does not permit this user to scan for Wi-Fi networks"_s};
+    case RemoteFailure::unknownObject:
+        return Error{u"The Wi-Fi interface %1 is gone"_s.arg(m_interfaceName)};
+    case RemoteFailure::notAllowed:
+        return whyNotAllowed();
+    default:
+        return error->error();
+    }
+}
+
+std::optional<nl80211::BootTime> NetworkManagerScan::lastScan()
+{
+    const auto lastScan = m_manager.lastScan(m_devicePath);
+    return lastScan.ok() ? lastScan.value() : std::nullopt;
+}
+
+// NetworkManager gives one name to several reasons; only the device's state tells them apart.
+Result<ScanTrigger> NetworkManagerScan::whyNotAllowed()
+{
+    if (auto obstacle = NetworkManagerScan::obstacle()) {
+        return *obstacle;
+    }
+    const auto device = m_manager.device(m_interfaceName);
+    const auto isSettled = [](DeviceState state) {
+        return state == DeviceState::disconnected || state == DeviceState::activated;
+    };
+    if (device.ok() && device.value() && !isSettled(device.value()->state)) {
+        return Error{u"The Wi-Fi interface %1 is busy joining or leaving a network"_s.arg(m_interfaceName)};
+    }
+    // A scan is under way, or has only just ended.
+    return ScanTrigger::alreadyRunning;
+}
+
+} // namespace aerolith
