@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What scenarios are written with. Sourced in the guest, as root. Every wait is bounded.
 
 USER_ID=2100 # of the unprivileged user "tester"

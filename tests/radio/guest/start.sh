@@ -8,6 +8,7 @@ export PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin HOME=/r
 mount_system_folders
 start_system_services
 add_user
+# shellcheck source=/dev/null
 . "$BED/scenarios/$SCENARIO.sh"
 say end
 finish

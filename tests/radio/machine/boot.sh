@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by run.sh. One virtual machine: plain emulation, no network, the host's root read-only.
 
 # boot_machine CACHE SHARE SECONDS LOG: runs the guest until it powers itself off; fails when it has not reached its

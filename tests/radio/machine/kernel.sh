@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by run.sh. Debian's kernel with its modules, unpacked into a cache directory but not installed.
 
 # prepare_kernel CACHE: leaves CACHE/vmlinuz, CACHE/root (the modules below it) and CACHE/release; skips the run

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # The list and the details against the kernel's own, and every way in which a scan may be refused.
 # Sourced in the guest; judged on the host by judge/scan.py.
 
