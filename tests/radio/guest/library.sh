@@ -156,4 +156,4 @@ permit() {
 watch_scans() { iw event -t >/out/scans.txt 2>/dev/null & }
 
 scans_ended() { grep -c 'scan finished' /out/scans.txt; }
-scan_has_ended_since() { [ "$(scans_ended)" -gt "$1" ]; }
+scans_have_ended() { [ "$(scans_ended)" -ge "$1" ]; }

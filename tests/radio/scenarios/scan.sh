@@ -19,9 +19,9 @@ permit yes
 details=()
 for bssid in $BSSIDS; do details+=(--details "$bssid" "$bssid.json"); done
 ended=$(scans_ended)
-observe survey 120 --cycles 3 --interval 5 --format json --list list.json "${details[@]}" &
-wait_for 60 scan_has_ended_since "$ended"
-switch_off_access_point "$LEAVING_INTERFACE"
+observe survey 180 --cycles 4 --interval 5 --format json --list list.json "${details[@]}" &
+# The first scan to end may be one of NetworkManager's own; with the second, the first cycle has had its scan.
+wait_for 90 scans_have_ended $((ended + 2)) && switch_off_access_point "$LEAVING_INTERFACE"
 wait $!
 
 nmcli connection add type wifi con-name joined ifname wlan0 ssid "$JOINED_SSID" \
