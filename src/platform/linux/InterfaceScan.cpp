@@ -5,6 +5,7 @@
 #include "platform/linux/LastScanEvents.h"
 #include "platform/linux/NetworkManagerScan.h"
 #include "platform/linux/RadioSwitch.h"
+#include "platform/linux/StoppableScanEvents.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
 #include "platform/linux/nl80211/Sightings.h"
 
@@ -115,7 +116,8 @@ Result<QList<CWNetwork>> scanInterface(LinuxWireless& wireless, const QString& n
     if (!events.ok()) {
         return events.error();
     }
-    const auto heardSince = awaitScan(*chosen.value().service, *events.value(), begun, ssid);
+    StoppableScanEvents stoppable(events.value(), wireless.stopped);
+    const auto heardSince = awaitScan(*chosen.value().service, stoppable, begun, ssid);
     if (!heardSince.ok()) {
         return heardSince.error();
     }

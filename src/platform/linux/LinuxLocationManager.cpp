@@ -1,9 +1,11 @@
 #include "platform/linux/LinuxLocationManager.h"
 
+#include <QPointer>
+
 namespace aerolith {
 
-LinuxLocationManager::LinuxLocationManager(const BusAddress& bus)
-    : m_permission(bus, [this] { permissionChanged(); })
+LinuxLocationManager::LinuxLocationManager(MainQueue& mainQueue, const BusAddress& bus)
+    : m_mainQueue(mainQueue), m_permission(bus, [this] { permissionChanged(); })
 {
 }
 
@@ -14,13 +16,12 @@ void LinuxLocationManager::setDelegate(CLLocationManagerDelegate* delegate)
         return;
     }
     m_firstDeliveryPending = true;
-    QMetaObject::invokeMethod(
-        &m_context,
-        [this] {
+    m_mainQueue.async([this, lifetime = QPointer(&m_lifetime)] {
+        if (lifetime != nullptr) {
             m_firstDeliveryPending = false;
             deliver();
-        },
-        Qt::QueuedConnection);
+        }
+    });
 }
 
 CLAuthorizationStatus LinuxLocationManager::authorizationStatus() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/CLLocationManager.h"
+#include "platform/Queues.h"
 #include "platform/linux/networkmanager/ScanPermission.h"
 
 #include <QObject>
@@ -13,8 +14,8 @@ namespace aerolith {
 class LinuxLocationManager : public CLLocationManager
 {
 public:
-    /// Blocks for the first answer, at most one second.
-    explicit LinuxLocationManager(const BusAddress& bus = {});
+    /// Blocks for the first answer, at most one second. The queue outlives this object.
+    explicit LinuxLocationManager(MainQueue& mainQueue, const BusAddress& bus = {});
 
     void setDelegate(CLLocationManagerDelegate* delegate) override;
     [[nodiscard]] CLAuthorizationStatus authorizationStatus() const override;
@@ -24,11 +25,13 @@ private:
     void deliver();
     void permissionChanged();
 
+    MainQueue& m_mainQueue;
     ScanPermission m_permission;
     CLLocationManagerDelegate* m_delegate = nullptr;
     /// While the delivery that follows setDelegate() is on its way; it covers the changes until then.
     bool m_firstDeliveryPending = false;
-    QObject m_context;
+    /// What tells a delivery on its way that this object is gone.
+    QObject m_lifetime;
 };
 
 } // namespace aerolith

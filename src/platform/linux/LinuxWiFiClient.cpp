@@ -33,4 +33,9 @@ std::shared_ptr<CWInterface> LinuxWiFiClient::interface()
     return nullptr;
 }
 
+void LinuxWiFiClient::stopScanning()
+{
+    m_wireless->stopped = true;
+}
+
 } // namespace aerolith

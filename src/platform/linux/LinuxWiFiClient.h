@@ -20,6 +20,9 @@ public:
 
     [[nodiscard]] std::shared_ptr<CWInterface> interface() override;
 
+    /// Ends the scans that are under way, and every later one, at once; they fail. Any thread.
+    void stopScanning();
+
 private:
     std::shared_ptr<LinuxWireless> m_wireless;
     /// Whether it has been logged that the kernel cannot be asked.

@@ -26,6 +26,8 @@ struct LinuxWireless
     Log& log;
     /// Whether it has been logged that NetworkManager's addresses are made up.
     std::atomic<bool> madeUpAddressLogged = false;
+    /// Whether every scan is to end at once.
+    std::atomic<bool> stopped = false;
 
     /// The interface of that name as it is now; an error when it is gone or the kernel cannot be asked.
     [[nodiscard]] Result<nl80211::InterfaceInfo> interface(const QString& name);

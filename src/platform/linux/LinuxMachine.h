@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Log.h"
+#include "platform/Queues.h"
+#include "platform/linux/LinuxLocationManager.h"
+#include "platform/linux/LinuxWiFiClient.h"
+
+namespace aerolith {
+
+/// The machine that the program runs on. It outlives whatever uses it; log and main queue outlive it. Its
+/// threads need an event loop on the main thread alone.
+class LinuxMachine
+{
+public:
+    /// Main thread. Blocks for what permission the user has, at most one second. `bus` is where
+    /// NetworkManager is.
+    LinuxMachine(Log& log, MainQueue& mainQueue, const BusAddress& bus = {});
+
+    [[nodiscard]] CWWiFiClient& wifiClient() { return m_wifiClient; }
+
+    [[nodiscard]] CLLocationManager& locationManager() { return m_locationManager; }
+
+    /// Ends the scans that are under way, and every later one, at once: to be called before a queue that
+    /// scans is destroyed, which waits for its scan. Any thread.
+    void stopScanning() { m_wifiClient.stopScanning(); }
+
+private:
+    LinuxWiFiClient m_wifiClient;
+    LinuxLocationManager m_locationManager;
+};
+
+} // namespace aerolith

@@ -1,0 +1,175 @@
+#include "platform/linux/AwaitScan.h"
+
+#include "platform/linux/LastScanEvents.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <vector>
+
+namespace aerolith {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using nl80211::BootTime;
+using nl80211::ScanStage;
+using nl80211::ScanTrigger;
+using testing::ElementsAre;
+
+struct FakeService : ScanService
+{
+    Failure obstacle() override { return standing; }
+
+    Result<ScanTrigger> request(const std::optional<QByteArray>& ssid) override
+    {
+        requests.push_back(ssid);
+        return requests.size() == 1 ? first : Result<ScanTrigger>(ScanTrigger::started);
+    }
+
+    std::optional<BootTime> lastScan() override
+    {
+        const auto newest = lastScans.front();
+        if (lastScans.size() > 1) {
+            lastScans.pop_front();
+        }
+        return newest;
+    }
+
+    Failure standing;
+    Result<ScanTrigger> first = ScanTrigger::started;
+    /// Answers in turn; the last one stays.
+    std::deque<std::optional<BootTime>> lastScans{std::nullopt};
+    std::vector<std::optional<QByteArray>> requests;
+};
+
+// Tells what it is given; after that, every deadline passes at once.
+struct ScriptedEvents : nl80211::ScanEvents
+{
+    explicit ScriptedEvents(std::deque<ScanStage> script) : stages(std::move(script)) {}
+
+    Result<std::optional<ScanStage>> wait(Deadline deadline) override
+    {
+        deadlines.push_back(deadline);
+        if (failure) {
+            return *failure;
+        }
+        if (stages.empty()) {
+            return std::optional<ScanStage>();
+        }
+        const auto stage = stages.front();
+        stages.pop_front();
+        return std::optional(stage);
+    }
+
+    std::deque<ScanStage> stages;
+    std::optional<Error> failure;
+    std::vector<Deadline> deadlines;
+};
+
+constexpr auto started = ScanStage::started;
+constexpr auto finished = ScanStage::finished;
+constexpr auto aborted = ScanStage::aborted;
+constexpr BootTime begun = 100s;
+
+class AwaitScanTest : public testing::Test
+{
+protected:
+    /// Since when to listen, or nothing where the scan failed.
+    std::optional<BootTime> await(std::deque<ScanStage> script, const std::optional<QByteArray>& ssid = {})
+    {
+        ScriptedEvents events(std::move(script));
+        const auto result = awaitScan(m_service, events, begun, ssid);
+        m_error = result.ok() ? QString() : result.error().description;
+        return result.ok() ? std::optional(result.value()) : std::nullopt;
+    }
+
+    FakeService m_service;
+    QString m_error;
+};
+
+TEST_F(AwaitScanTest, aScanBegunSinceTheRequestAnswers)
+{
+    EXPECT_EQ(await({started, finished}), begun);
+    EXPECT_EQ(await({started, finished}, "x"_ba), begun);
+    EXPECT_THAT(m_service.requests, ElementsAre(std::nullopt, "x"_ba));
+}
+
+TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
+{
+    EXPECT_EQ(await({finished}), begun - 10s);
+    m_service.lastScans = {begun - 3s};
+    EXPECT_EQ(await({finished}), begun - 3s) << "it began after the one before had ended";
+
+    m_service.lastScans = {std::nullopt};
+    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun);
+    EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
+}
+
+TEST_F(AwaitScanTest, asksAgainWhereTheRunningScanMadeTheRequestForgotten)
+{
+    m_service.first = ScanTrigger::alreadyRunning;
+    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun);
+    EXPECT_EQ(m_service.requests.size(), 2U);
+}
+
+TEST_F(AwaitScanTest, anAbortedScanAnswersNothing)
+{
+    EXPECT_EQ(await({started, aborted, started, finished}), begun);
+    EXPECT_EQ(await({started, aborted, finished}, "x"_ba), std::nullopt);
+
+    m_service.standing = Error{u"The Wi-Fi radio is off"_s};
+    EXPECT_EQ(await({started, aborted, started, finished}), std::nullopt);
+    EXPECT_EQ(m_error, u"The Wi-Fi radio is off"_s);
+}
+
+TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
+{
+    m_service.lastScans = {begun - 7s};
+    EXPECT_EQ(await({}), begun - 17s);
+    EXPECT_EQ(await({started}), begun - 17s);
+
+    m_service.lastScans = {begun - 15s};
+    EXPECT_EQ(await({}), std::nullopt);
+    EXPECT_EQ(m_error, u"The Wi-Fi scan did not end in time"_s);
+    m_service.lastScans = {std::nullopt};
+    EXPECT_EQ(await({}), std::nullopt);
+
+    m_service.lastScans = {begun - 7s};
+    m_service.standing = Error{u"The Wi-Fi interface wlan0 is gone"_s};
+    EXPECT_EQ(await({}), std::nullopt);
+    EXPECT_EQ(m_error, u"The Wi-Fi interface wlan0 is gone"_s);
+}
+
+TEST_F(AwaitScanTest, aRefusalOrLostEventsEndTheWait)
+{
+    ScriptedEvents events({started, finished});
+    m_service.first = Error{u"refused"_s};
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}).error().description, u"refused"_s);
+    EXPECT_TRUE(events.deadlines.empty());
+
+    m_service.requests = {std::nullopt};
+    events.failure = Error{u"lost"_s};
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}).error().description, u"lost"_s);
+}
+
+TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
+{
+    ScriptedEvents events({started, aborted, started, finished});
+    EXPECT_TRUE(awaitScan(m_service, events, begun, {}).ok());
+    ASSERT_EQ(events.deadlines.size(), 4U);
+    EXPECT_EQ(events.deadlines[1] - events.deadlines[0], 15s);
+    EXPECT_EQ(events.deadlines[3], events.deadlines[1]);
+}
+
+TEST_F(AwaitScanTest, withoutEventsANewLastScanIsTheSign)
+{
+    m_service.lastScans = {begun - 5s, begun - 5s, begun - 5s, begun + 2s};
+    LastScanEvents events(m_service, 0ms);
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}).value(), begun);
+    EXPECT_EQ(events.wait({}).value(), std::nullopt) << "nothing new before the deadline";
+}
+
+} // namespace
+} // namespace aerolith

@@ -1,0 +1,109 @@
+#include "platform/linux/FakeKernel.h"
+
+#include "platform/linux/nl80211/BootTime.h"
+
+#include <linux/nl80211.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using nl80211::BssEntry;
+using nl80211::InterfaceInfo;
+using nl80211::ScanStage;
+using nl80211::ScanTrigger;
+
+namespace {
+
+ieee80211::HardwareAddress addressOf(const QString& text)
+{
+    ieee80211::HardwareAddress address{};
+    const auto bytes = QByteArray::fromHex(text.toLatin1());
+    std::copy_n(bytes.begin(), std::min<qsizetype>(bytes.size(), 6), address.begin());
+    return address;
+}
+
+class Events : public nl80211::ScanEvents
+{
+public:
+    explicit Events(FakeKernel& kernel) : m_kernel(kernel) {}
+
+    Result<std::optional<ScanStage>> wait(Deadline deadline) override { return m_kernel.next(deadline); }
+
+private:
+    FakeKernel& m_kernel;
+};
+
+} // namespace
+
+FakeKernel::FakeKernel()
+{
+    InterfaceInfo info;
+    info.index = 3;
+    info.name = u"wlan0"_s;
+    info.type = NL80211_IFTYPE_STATION;
+    interfaceList = {info};
+}
+
+BssEntry& FakeKernel::hear(const QString& address, const QByteArray& ssid, std::chrono::milliseconds age)
+{
+    BssEntry entry;
+    entry.address = addressOf(address);
+    entry.lastSeenBootTime = static_cast<std::uint64_t>((nl80211::bootTimeNow() - age).count());
+    entry.elements = QByteArray(1, '\0') + QByteArray(1, static_cast<char>(ssid.size())) + ssid;
+    entries.append(entry);
+    return entries.last();
+}
+
+void FakeKernel::tell(ScanStage stage)
+{
+    const std::lock_guard lock(m_mutex);
+    m_events.push_back(stage);
+    m_changed.notify_all();
+}
+
+std::optional<ScanStage> FakeKernel::next(nl80211::ScanEvents::Deadline deadline)
+{
+    std::unique_lock lock(m_mutex);
+    if (!m_changed.wait_until(lock, deadline, [this] { return !m_events.empty(); })) {
+        return {};
+    }
+    const auto stage = m_events.front();
+    m_events.pop_front();
+    return stage;
+}
+
+Result<QList<InterfaceInfo>> FakeKernel::interfaces()
+{
+    return failure ? Result<QList<InterfaceInfo>>(*failure) : interfaceList;
+}
+
+Result<QList<CWChannel>> FakeKernel::supportedChannels(std::uint32_t)
+{
+    return channels;
+}
+
+Result<QList<BssEntry>> FakeKernel::bssEntries(std::uint32_t)
+{
+    return entries;
+}
+
+Result<ScanTrigger> FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)
+{
+    if (triggerRefusal) {
+        return *triggerRefusal;
+    }
+    for (const auto stage : triggeredEvents) {
+        tell(stage);
+    }
+    return ScanTrigger::started;
+}
+
+Result<std::shared_ptr<nl80211::ScanEvents>> FakeKernel::scanEvents(std::uint32_t)
+{
+    if (!tellsEvents) {
+        return Error{u"no events"_s};
+    }
+    return std::shared_ptr<nl80211::ScanEvents>(std::make_shared<Events>(*this));
+}
+
+} // namespace aerolith

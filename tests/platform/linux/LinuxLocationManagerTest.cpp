@@ -1,0 +1,97 @@
+#include "platform/linux/LinuxLocationManager.h"
+
+#include "platform/linux/networkmanager/FakeNetworkManager.h"
+#include "platform/linux/networkmanager/MainLoop.h"
+#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/ManualMainQueue.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace aerolith {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Status = CLAuthorizationStatus;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct RecordingDelegate : CLLocationManagerDelegate
+{
+    void locationManagerDidChangeAuthorization(CLLocationManager& manager) override
+    {
+        delivered.push_back(manager.authorizationStatus());
+    }
+
+    std::vector<Status> delivered;
+};
+
+class LinuxLocationManagerTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { startMainLoop(); }
+
+    void start(const QString& permission)
+    {
+        m_fake.emplace(m_bus.address());
+        m_fake->setScanPermission(permission);
+        m_manager.emplace(m_queue, m_bus.address());
+        m_manager->setDelegate(&m_delegate);
+    }
+
+    [[nodiscard]] bool becomes(Status status)
+    {
+        return handleEventsUntil([&] { return m_manager->authorizationStatus() == status; });
+    }
+
+    PrivateBus m_bus;
+    ManualMainQueue m_queue;
+    RecordingDelegate m_delegate;
+    std::optional<FakeNetworkManager> m_fake;
+    std::optional<LinuxLocationManager> m_manager;
+};
+
+TEST_F(LinuxLocationManagerTest, deliversOnceOnALaterTurnAndThenEveryChange)
+{
+    start(u"yes"_s);
+    EXPECT_EQ(m_manager->authorizationStatus(), Status::authorizedAlways);
+    EXPECT_THAT(m_delegate.delivered, IsEmpty());
+    m_queue.drain();
+    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::authorizedAlways));
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(Status::denied));
+    m_fake->setScanPermission(u"auth"_s);
+    EXPECT_TRUE(becomes(Status::notDetermined));
+    m_manager->requestWhenInUseAuthorization();
+    EXPECT_TRUE(becomes(Status::authorizedAlways));
+    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::authorizedAlways, Status::denied,
+                                                  Status::notDetermined, Status::authorizedAlways));
+}
+
+TEST_F(LinuxLocationManagerTest, aChangeBeforeTheFirstDeliveryIsPartOfIt)
+{
+    start(u"yes"_s);
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(Status::denied));
+    m_queue.drain();
+    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::denied));
+}
+
+TEST_F(LinuxLocationManagerTest, deliversNothingAfterDetachingOrItsEnd)
+{
+    start(u"yes"_s);
+    m_manager->setDelegate(nullptr);
+    m_queue.drain();
+    m_fake->setScanPermission(u"no"_s);
+    EXPECT_TRUE(becomes(Status::denied));
+    m_manager->setDelegate(&m_delegate);
+    m_manager.reset();
+    m_queue.drain();
+    EXPECT_THAT(m_delegate.delivered, IsEmpty());
+}
+
+} // namespace
+} // namespace aerolith

@@ -1,0 +1,316 @@
+#include "platform/linux/FakeKernel.h"
+#include "platform/linux/LinuxWiFiClient.h"
+#include "platform/linux/networkmanager/DBusTypes.h"
+#include "platform/linux/networkmanager/FakeNetworkManager.h"
+#include "platform/linux/networkmanager/MainLoop.h"
+#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/RecordingLog.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <linux/nl80211.h>
+
+namespace aerolith {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using nl80211::ScanStage;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const auto permissionDenied = u"org.freedesktop.NetworkManager.PermissionDenied"_s;
+const auto notAllowed = u"org.freedesktop.NetworkManager.Device.NotAllowed"_s;
+
+class LinuxWiFiTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { startMainLoop(); }
+
+    LinuxWiFiTest()
+    {
+        auto kernel = std::make_unique<FakeKernel>();
+        m_kernel = kernel.get();
+        m_client.emplace(m_log, m_bus.address(), std::move(kernel), m_systemFiles.path());
+        m_interface = m_client->interface();
+    }
+
+    void startNetworkManager()
+    {
+        m_fake.emplace(m_bus.address());
+        m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
+            m_kernel->tell(ScanStage::started);
+            m_kernel->hear(u"02:00:00:00:00:01"_s, "home");
+            m_kernel->hear(u"02:00:00:00:00:02"_s, "cafe");
+            m_kernel->tell(ScanStage::finished);
+            return call.createReply();
+        });
+    }
+
+    void setState(quint32 state)
+    {
+        m_fake->setProperty(u"Device.StateReason"_s, QVariant::fromValue(DeviceStateReason{state, 0}));
+    }
+
+    void join(const QString& kernelsAddress, const QString& networkManagersAddress)
+    {
+        m_kernel->hear(kernelsAddress, "home").status = NL80211_BSS_STATUS_ASSOCIATED;
+        m_fake->setProperty(u"Wireless.ActiveAccessPoint"_s,
+                            QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::accessPointPath)));
+        m_fake->setProperty(u"AccessPoint.HwAddress"_s, networkManagersAddress);
+    }
+
+    void writeRadioSwitch(const QByteArray& soft, const QByteArray& hard) const
+    {
+        const auto path = m_systemFiles.filePath(u"class/net/wlan0/phy80211/rfkill4"_s);
+        QDir().mkpath(path);
+        for (const auto& [name, value] : {std::pair(u"/soft"_s, soft), std::pair(u"/hard"_s, hard)}) {
+            QFile file(path + name);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(value + '\n');
+        }
+    }
+
+    QStringList scan(const std::optional<QByteArray>& ssid = {})
+    {
+        const auto result = m_interface->scanForNetworksWithSSID(ssid);
+        if (!result.ok()) {
+            return {u"failed"_s, result.error().description};
+        }
+        QStringList addresses;
+        for (const auto& network : result.value()) {
+            addresses.append(*network.bssid);
+        }
+        return addresses;
+    }
+
+    QString failure() { return scan().value(1); }
+
+    PrivateBus m_bus;
+    QTemporaryDir m_systemFiles;
+    RecordingLog m_log;
+    FakeKernel* m_kernel = nullptr;
+    std::optional<LinuxWiFiClient> m_client;
+    std::optional<FakeNetworkManager> m_fake;
+    std::shared_ptr<CWInterface> m_interface;
+};
+
+TEST_F(LinuxWiFiTest, theDefaultInterfaceIsTheFirstThatJoinsNetworks)
+{
+    EXPECT_EQ(m_interface->interfaceName(), u"wlan0"_s);
+    auto accessPoint = m_kernel->interfaceList.first();
+    accessPoint.name = u"ap0"_s;
+    accessPoint.type = NL80211_IFTYPE_AP;
+    auto withoutDevice = m_kernel->interfaceList.first();
+    withoutDevice.index = 0;
+    auto adHoc = m_kernel->interfaceList.first();
+    adHoc.name = u"mesh0"_s;
+    adHoc.type = NL80211_IFTYPE_ADHOC;
+    m_kernel->interfaceList = {accessPoint, withoutDevice, adHoc, m_kernel->interfaceList.first()};
+    EXPECT_EQ(m_client->interface()->interfaceName(), u"mesh0"_s);
+
+    m_kernel->interfaceList = {accessPoint};
+    EXPECT_EQ(m_client->interface(), nullptr);
+    EXPECT_THAT(m_log.take(), IsEmpty());
+    m_kernel->failure = Error{u"The kernel has no Wi-Fi"_s};
+    EXPECT_EQ(m_client->interface(), nullptr);
+    EXPECT_EQ(m_client->interface(), nullptr);
+    EXPECT_THAT(m_log.take(), ElementsAre(u"The kernel has no Wi-Fi"_s));
+}
+
+TEST_F(LinuxWiFiTest, aScanAnswersWithWhatItHeardAlone)
+{
+    startNetworkManager();
+    m_kernel->hear(u"02:00:00:00:00:09"_s, "gone", 5s);
+    EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:01"_s, u"02:00:00:00:00:02"_s));
+    EXPECT_THAT(scan("cafe"_ba), ElementsAre(u"02:00:00:00:00:02"_s));
+    const auto requests = m_fake->calls(u"RequestScan"_s);
+    ASSERT_EQ(requests.size(), 2);
+    EXPECT_EQ(qdbus_cast<QList<QByteArray>>(
+                  qdbus_cast<QVariantMap>(requests[1].arguments().at(0)).value(u"ssids"_s)),
+              QList{"cafe"_ba});
+}
+
+TEST_F(LinuxWiFiTest, aScanThatSomebodyElseHasRunningAnswersToo)
+{
+    startNetworkManager();
+    setState(100);
+    m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
+        m_kernel->tell(ScanStage::finished);
+        return call.createErrorReply(notAllowed, u"Scanning not allowed while already scanning"_s);
+    });
+    m_kernel->hear(u"02:00:00:00:00:03"_s, "heard before the request", 2s);
+    EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:03"_s));
+}
+
+TEST_F(LinuxWiFiTest, withoutEventsNetworkManagerTellsTheEnd)
+{
+    startNetworkManager();
+    m_kernel->tellsEvents = false;
+    m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
+        m_kernel->hear(u"02:00:00:00:00:01"_s, "home");
+        m_fake->setProperty(u"Wireless.LastScan"_s, qlonglong{5'000});
+        return call.createReply();
+    });
+    EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:01"_s));
+}
+
+TEST_F(LinuxWiFiTest, saysWhyThereIsNoScan)
+{
+    startNetworkManager();
+    m_kernel->triggerRefusal = Error{u"A scan cannot be started: not permitted"_s};
+
+    setState(20);
+    EXPECT_EQ(failure(), u"The Wi-Fi interface wlan0 is not available"_s);
+    setState(10);
+    EXPECT_EQ(failure(), u"NetworkManager does not manage the Wi-Fi interface wlan0. "
+                         "A scan cannot be started: not permitted"_s);
+    setState(50);
+    m_fake->on(u"RequestScan"_s, refuse(notAllowed));
+    EXPECT_EQ(failure(), u"The Wi-Fi interface wlan0 is busy joining or leaving a network"_s);
+    setState(30);
+    m_fake->on(u"RequestScan"_s, refuse(permissionDenied));
+    EXPECT_EQ(failure(), u"The system does not permit this user to scan for Wi-Fi networks"_s);
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, false);
+    EXPECT_EQ(failure(), u"The Wi-Fi radio is off"_s);
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, u"text"_s);
+    EXPECT_TRUE(failure().startsWith(u"NetworkManager gave an answer of a wrong type"_s));
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, true);
+    m_fake->on(u"RequestScan"_s, vanish());
+    EXPECT_EQ(failure(), u"NetworkManager does not answer"_s);
+    EXPECT_EQ(failure(), u"NetworkManager is not running. A scan cannot be started: not permitted"_s);
+    writeRadioSwitch("1", "0");
+    EXPECT_EQ(failure(), u"The Wi-Fi radio is off"_s);
+    m_kernel->interfaceList.clear();
+    EXPECT_EQ(failure(), u"The Wi-Fi interface wlan0 is gone"_s);
+    m_kernel->failure = Error{u"The kernel has no Wi-Fi"_s};
+    EXPECT_EQ(failure(), u"The kernel has no Wi-Fi"_s);
+}
+
+TEST_F(LinuxWiFiTest, theRadioSwitchedOffWhileScanningEndsTheScan)
+{
+    startNetworkManager();
+    m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
+        m_fake->setProperty(u"NetworkManager.WirelessEnabled"_s, false);
+        m_kernel->tell(ScanStage::started);
+        m_kernel->tell(ScanStage::aborted);
+        return call.createReply();
+    });
+    EXPECT_EQ(failure(), u"The Wi-Fi radio is off"_s);
+}
+
+TEST_F(LinuxWiFiTest, scansByItselfWhereNoNetworkManagerRuns)
+{
+    m_kernel->triggeredEvents = {ScanStage::started, ScanStage::finished};
+    m_kernel->hear(u"02:00:00:00:00:03"_s, "early", 1s);
+    // Heard a moment from now.
+    m_kernel->hear(u"02:00:00:00:00:04"_s, "here", -1s);
+    EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:04"_s));
+    m_kernel->tellsEvents = false;
+    EXPECT_EQ(failure(), u"no events"_s);
+}
+
+TEST_F(LinuxWiFiTest, stoppingEndsAScanThatNeverAnswers)
+{
+    startNetworkManager();
+    m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
+        m_client->stopScanning();
+        return call.createReply();
+    });
+    EXPECT_EQ(failure(), u"The Wi-Fi scan was stopped"_s);
+}
+
+TEST_F(LinuxWiFiTest, noticesAddressesThatNetworkManagersBackEndMakesUp)
+{
+    startNetworkManager();
+    join(u"02:00:00:00:00:0a"_s, u"02:00:00:00:00:0A"_s);
+    scan();
+    join(u"02:00:00:00:00:0a"_s, u"02:00:00:00:00:01"_s);
+    scan();
+    EXPECT_THAT(m_log.take(), IsEmpty()) << "roaming is not making up";
+
+    join(u"02:00:00:00:00:0a"_s, u"0e:ee:00:00:00:01"_s);
+    scan();
+    scan();
+    EXPECT_THAT(m_log.take(),
+                ElementsAre(u"NetworkManager's back end makes up access point addresses: it says "
+                            "0e:ee:00:00:00:01 for 02:00:00:00:00:0a. The kernel's addresses are "
+                            "used."_s));
+    EXPECT_EQ(m_interface->bssid(), u"02:00:00:00:00:0a"_s);
+}
+
+TEST_F(LinuxWiFiTest, readsTheAssociationFromTheKernel)
+{
+    EXPECT_EQ(m_interface->ssid(), std::nullopt);
+    EXPECT_EQ(m_interface->bssid(), std::nullopt);
+    // While joining, the interface has a name already.
+    m_kernel->interfaceList[0].ssid = "hidden home"_ba;
+    EXPECT_EQ(m_interface->ssid(), std::nullopt);
+    m_kernel->hear(u"02:00:00:00:00:0a"_s, "").status = NL80211_BSS_STATUS_ASSOCIATED;
+    EXPECT_EQ(m_interface->ssid(), u"hidden home"_s);
+    EXPECT_EQ(m_interface->bssid(), u"02:00:00:00:00:0a"_s);
+    m_kernel->interfaceList[0].ssid.reset();
+    m_kernel->entries.clear();
+    m_kernel->hear(u"02:00:00:00:00:0a"_s, "home").status = NL80211_BSS_STATUS_ASSOCIATED;
+    EXPECT_EQ(m_interface->ssid(), u"home"_s);
+    m_kernel->interfaceList.clear();
+    EXPECT_EQ(m_interface->ssid(), std::nullopt);
+}
+
+TEST_F(LinuxWiFiTest, readsTheInterface)
+{
+    EXPECT_EQ(m_interface->hardwareAddress(), std::nullopt);
+    EXPECT_EQ(m_interface->transmitPower(), 0);
+    EXPECT_EQ(m_interface->supportedWLANChannels(), std::nullopt);
+    m_kernel->interfaceList[0].address = ieee80211::HardwareAddress{2, 0, 0, 0xab, 0, 1};
+    m_kernel->interfaceList[0].transmitPower = 1'500;
+    m_kernel->channels = {{1, 1}, {1, 2}};
+    EXPECT_EQ(m_interface->hardwareAddress(), u"02:00:00:ab:00:01"_s);
+    EXPECT_EQ(m_interface->transmitPower(), 32);
+    EXPECT_EQ(m_interface->supportedWLANChannels(), m_kernel->channels);
+    m_kernel->interfaceList.clear();
+    EXPECT_EQ(m_interface->hardwareAddress(), std::nullopt);
+    EXPECT_EQ(m_interface->transmitPower(), 0);
+    EXPECT_EQ(m_interface->supportedWLANChannels(), std::nullopt);
+    EXPECT_EQ(m_interface->interfaceName(), u"wlan0"_s);
+}
+
+TEST_F(LinuxWiFiTest, theRadioIsOnUnlessSomethingSaysOtherwise)
+{
+    EXPECT_TRUE(m_interface->powerOn());
+    writeRadioSwitch("0", "0");
+    EXPECT_TRUE(m_interface->powerOn());
+    writeRadioSwitch("0", "1");
+    EXPECT_FALSE(m_interface->powerOn());
+    startNetworkManager();
+    EXPECT_TRUE(m_interface->powerOn()) << "NetworkManager knows of every switch";
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, false);
+    EXPECT_FALSE(m_interface->powerOn());
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, true);
+    m_fake->setProperty(u"NetworkManager.WirelessEnabled"_s, false);
+    EXPECT_FALSE(m_interface->powerOn());
+}
+
+TEST_F(LinuxWiFiTest, switchesTheRadioOrSaysWhyNot)
+{
+    EXPECT_EQ(m_interface->setPower(false)->description, u"NetworkManager is not running"_s);
+    startNetworkManager();
+    EXPECT_EQ(m_interface->setPower(false), std::nullopt);
+    EXPECT_FALSE(m_interface->powerOn());
+    m_fake->setProperty(u"NetworkManager.WirelessHardwareEnabled"_s, false);
+    EXPECT_EQ(m_interface->setPower(true)->description,
+              u"A switch or key of this machine keeps the Wi-Fi radio off"_s);
+    m_fake->on(u"Set NetworkManager.WirelessEnabled"_s, refuse(permissionDenied));
+    EXPECT_EQ(m_interface->setPower(false)->description,
+              u"The system does not permit this user to switch the Wi-Fi radio"_s);
+}
+
+} // namespace
+} // namespace aerolith
