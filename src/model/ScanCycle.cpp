@@ -34,8 +34,11 @@ void WiFiScanner::performScan()
     } else {
         m_surroundings.log.line(u"No WiFi interface found"_s);
     }
-    const std::lock_guard lock(m_mutex);
-    m_isScanning = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isScanning = false;
+    }
+    m_surroundings.mainQueue.async(m_lifeline.guarded([this] { Q_EMIT scanCycleEnded(); }));
 }
 
 void WiFiScanner::runCycle(CWInterface& interface)

@@ -3,23 +3,33 @@
 #include "model/NetworkRecord.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace aerolith {
 
 namespace {
 
-/// The accepted results by BSSID; results of one BSSID keep the order in which they were heard.
-QList<const CWNetwork*> acceptedByBssid(const QList<CWNetwork>& results)
+/// One accepted result, its key beside it: sorting ten thousand of them would otherwise chase twice the
+/// pointers.
+struct Sighting
 {
-    QList<const CWNetwork*> accepted;
-    accepted.reserve(results.size());
+    QStringView bssid;
+    const CWNetwork* result;
+};
+
+/// The accepted results by BSSID; results of one BSSID keep the order in which they were heard.
+std::vector<Sighting> acceptedByBssid(const QList<CWNetwork>& results)
+{
+    std::vector<Sighting> accepted;
+    accepted.reserve(static_cast<std::size_t>(results.size()));
     for (const CWNetwork& result : results) {
         if (isAccepted(result)) {
-            accepted.append(&result);
+            accepted.push_back({.bssid = *result.bssid, .result = &result});
         }
     }
     std::stable_sort(accepted.begin(), accepted.end(),
-                     [](const CWNetwork* a, const CWNetwork* b) { return *a->bssid < *b->bssid; });
+                     [](const Sighting& a, const Sighting& b) { return a.bssid < b.bssid; });
     return accepted;
 }
 
@@ -44,19 +54,6 @@ private:
     typename BssidMap<Value>::const_iterator m_end;
 };
 
-/// The history with one more sample, without the oldest that no longer fit.
-SignalHistoryList appended(const SignalHistoryList& history, const SignalHistory& sample, qint64 limit)
-{
-    const qsizetype kept = std::clamp<qint64>(limit, 0, history.size() + 1);
-    if (kept == 0) {
-        return {};
-    }
-    SignalHistoryList longer(kept);
-    std::copy(history.cend() - (kept - 1), history.cend(), longer.begin());
-    longer.last() = sample;
-    return longer;
-}
-
 class Merge
 {
 public:
@@ -73,11 +70,11 @@ public:
 
     AccessPoints run()
     {
-        const QList<const CWNetwork*> heard = acceptedByBssid(m_cycle.results);
-        reserve(m_known.allNetworks.size() + heard.size());
+        const std::vector<Sighting> heard = acceptedByBssid(m_cycle.results);
+        reserve(std::max<qsizetype>(m_known.allNetworks.size(), std::ssize(heard)));
         auto missed = m_known.allNetworks.begin();
         for (auto at = heard.cbegin(); at != heard.cend();) {
-            const QString& bssid = *(*at)->bssid;
+            const QStringView bssid = at->bssid;
             for (; missed != m_known.allNetworks.end() && missed->bssid < bssid; ++missed) {
                 addMissed(missed->value);
             }
@@ -85,7 +82,7 @@ public:
                 ++missed;
             }
             const auto next =
-                std::find_if(at, heard.cend(), [&](const CWNetwork* r) { return *r->bssid != bssid; });
+                std::find_if(at, heard.cend(), [&](const Sighting& other) { return other.bssid != bssid; });
             addHeard(at, next);
             at = next;
         }
@@ -96,7 +93,7 @@ public:
     }
 
 private:
-    using Sighting = QList<const CWNetwork*>::const_iterator;
+    using SightingIterator = std::vector<Sighting>::const_iterator;
 
     void reserve(qsizetype count)
     {
@@ -111,23 +108,24 @@ private:
     }
 
     /// Every sighting of one access point in this cycle leaves a sample; the last makes the record.
-    void addHeard(Sighting first, Sighting end)
+    void addHeard(SightingIterator first, SightingIterator end)
     {
-        const QString& bssid = *(*first)->bssid;
+        const QString& bssid = *first->result->bssid;
         SignalHistoryList history = m_histories.value(bssid);
         for (auto at = first; at != end; ++at) {
-            history = appended(history, sample((*at)->rssiValue, recordNoise), m_historyLimit());
+            history = history.appended(sample(at->result->rssiValue, recordNoise), m_historyLimit());
         }
-        m_merged.allNetworks.append(
-            bssid, makeNetwork(**(end - 1), m_cycle.scanTime, m_cycle.currentBSSID, history, m_identifiers));
+        m_merged.allNetworks.append(bssid, makeNetwork(*(end - 1)->result, m_cycle.scanTime,
+                                                       m_cycle.currentBSSID, history, m_identifiers));
         m_merged.networkHistory.append(bssid, history);
         m_merged.lastSeenTimestamp.append(bssid, m_cycle.scanTime);
     }
 
     void addMissed(WiFiNetwork record)
     {
-        record.signalHistory = appended(m_histories.value(record.bssid),
-                                        sample(SignalHistory::missedRssi, record.noise), m_historyLimit());
+        record.signalHistory =
+            m_histories.value(record.bssid)
+                .appended(sample(SignalHistory::missedRssi, record.noise), m_historyLimit());
         const QString bssid = record.bssid;
         m_merged.networkHistory.append(bssid, record.signalHistory);
         m_merged.lastSeenTimestamp.append(bssid, m_lastSeen.value(bssid));

@@ -2,8 +2,8 @@
 
 #include "platform/Clock.h"
 
-#include <QList>
 #include <QUuid>
+#include <QtGlobal>
 
 namespace aerolith {
 
@@ -23,9 +23,4 @@ struct SignalHistory
     qint64 noise = 0;
 };
 
-/// Samples of one access point, oldest first.
-using SignalHistoryList = QList<SignalHistory>;
-
 } // namespace aerolith
-
-Q_DECLARE_TYPEINFO(aerolith::SignalHistory, Q_PRIMITIVE_TYPE);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/SignalHistory.h"
+#include "model/SignalHistoryList.h"
 #include "platform/Clock.h"
 
 #include <QByteArray>

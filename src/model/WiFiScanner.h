@@ -108,6 +108,9 @@ Q_SIGNALS:
     void statusChanged();
     void showHiddenNetworksChanged();
     void sortOptionChanged();
+    /// After every cycle, however it ended: status() has its outcome, the list follows on the next turn. A
+    /// cycle that found no interface leaves the status at `scanning`, so that this alone tells its end.
+    void scanCycleEnded();
 
 private:
     /// What the merge hands to the main thread. `clears` tells a merge that a clear has overtaken.

@@ -180,6 +180,7 @@ TEST(WiFiScanner, KeepsTheDataThroughAFailedScan)
 TEST(WiFiScanner, StaysScanningWithoutAnInterfaceAndTriesAgain)
 {
     Engine engine;
+    QSignalSpy ended(&*engine.scanner, &WiFiScanner::scanCycleEnded);
     engine.wifi.setPresent(false);
     for (int i = 0; i < 2; ++i) {
         engine.log.take();
@@ -187,6 +188,7 @@ TEST(WiFiScanner, StaysScanningWithoutAnInterfaceAndTriesAgain)
         EXPECT_EQ(engine.log.take(),
                   QStringList({u"Starting network scan..."_s, u"No WiFi interface found"_s}));
         EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
+        EXPECT_EQ(ended.count(), i + 1);
     }
     EXPECT_FALSE(engine.scanner->findNetwork(u"A"_s));
     engine.wifi.setPresent(true);

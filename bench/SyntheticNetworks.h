@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/ScanMerge.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <random>
+
+namespace aerolith {
+
+/// `count` access points as a scan might hear them: mixed security, channels and modes, in no order of address.
+inline QList<CWNetwork> syntheticResults(int count)
+{
+    std::mt19937 random(42);
+    QList<CWNetwork> results;
+    results.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        CWNetwork result;
+        result.bssid = QStringLiteral("0a:10:%1:%2:%3:%4")
+                           .arg(i >> 16 & 255, 2, 16, QChar(u'0'))
+                           .arg(i >> 8 & 255, 2, 16, QChar(u'0'))
+                           .arg(i & 255, 2, 16, QChar(u'0'))
+                           .arg(static_cast<int>(random() & 255), 2, 16, QChar(u'0'));
+        result.ssid = QStringLiteral("Network %1").arg(i);
+        result.ssidData = result.ssid->toUtf8();
+        result.rssiValue = -static_cast<qint64>(35 + random() % 60);
+        result.wlanChannel = CWChannel{.channelNumber = static_cast<qint64>(1 + random() % 13),
+                                       .channelWidth = static_cast<int>(1 + random() % 4)};
+        for (const int code : {4, 5}) {
+            result.securityCodes.insert(code);
+        }
+        for (const int mode : {2, 3, 4}) {
+            result.phyModeCodes.insert(mode);
+        }
+        result.countryCode = QStringLiteral("US");
+        result.beaconInterval = 100;
+        results.append(result);
+    }
+    std::shuffle(results.begin(), results.end(), random);
+    return results;
+}
+
+/// What is known after `cycles` scans of these results.
+inline AccessPoints knownAfter(const QList<CWNetwork>& results, int cycles, IdentifierSource& identifiers)
+{
+    AccessPoints known;
+    for (int cycle = 0; cycle < cycles; ++cycle) {
+        known = mergeScan(known,
+                          {.results = results, .scanTime = TimePoint(std::chrono::seconds(cycle)), .currentBSSID = {}},
+                          [] { return 50; }, identifiers);
+    }
+    return known;
+}
+
+} // namespace aerolith

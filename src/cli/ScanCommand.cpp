@@ -1,0 +1,125 @@
+#include "cli/ScanCommand.h"
+
+#include "export/CSVFile.h"
+#include "export/NetworkCsv.h"
+#include "export/NetworkJson.h"
+#include "platform/qt/FileWriting.h"
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+#include <utility>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, std::FILE* output,
+                         std::function<void(const QString&)> complain, std::function<void(ExitStatus)> onEnd)
+    : m_surroundings(surroundings)
+    , m_arguments(std::move(arguments))
+    , m_output(output)
+    , m_complain(std::move(complain))
+    , m_onEnd(std::move(onEnd))
+    , m_run(surroundings, m_arguments.cycles, m_arguments.interval,
+            [this](RunOutcome outcome) { endRun(outcome); })
+{
+    if (m_arguments.visibleOnly) {
+        m_run.scanner().setShowHiddenNetworks(false);
+    }
+}
+
+void ScanCommand::endRun(RunOutcome outcome)
+{
+    switch (outcome) {
+    case RunOutcome::completed:
+        break;
+    case RunOutcome::lastCycleFailed:
+        trouble(ExitStatus::failed, m_run.scanner().error().value_or(QString()));
+        break;
+    case RunOutcome::noInterface:
+        trouble(ExitStatus::noInterface, u"This machine has no Wi-Fi interface"_s);
+        if (m_run.scanner().allNetworks().isEmpty()) {
+            // An empty list would replace an older file with nothing.
+            m_onEnd(m_status);
+            return;
+        }
+        break;
+    }
+    if (m_arguments.sort) {
+        m_run.scanner().setSortOption(*m_arguments.sort);
+    }
+    // The new order is published on the next turn.
+    m_surroundings.mainQueue.async([this] {
+        writeExports();
+        m_onEnd(m_status);
+    });
+}
+
+void ScanCommand::writeExports()
+{
+    if (m_arguments.listFile || m_arguments.details.isEmpty()) {
+        write(m_arguments.listFile.value_or(u"-"_s), list());
+    }
+    for (const Arguments::Details& asked : std::as_const(m_arguments.details)) {
+        writeDetails(asked);
+    }
+}
+
+void ScanCommand::writeDetails(const Arguments::Details& asked)
+{
+    const BssidMap<WiFiNetwork> known = m_run.scanner().allNetworks();
+    const auto found = known.find(asked.bssid);
+    if (found == known.end()) {
+        trouble(ExitStatus::unknownAccessPoint, u"No access point %1 was heard"_s.arg(asked.bssid));
+        return;
+    }
+    write(asked.file, details(found->value));
+}
+
+QByteArray ScanCommand::list()
+{
+    const WiFiNetworkList& networks = m_run.scanner().networks();
+    return m_arguments.format == ExportFormat::json ? networkListJson(networks)
+                                                    : CSVFile(networkListCSV(networks)).fileWrapper();
+}
+
+QByteArray ScanCommand::details(const WiFiNetwork& network) const
+{
+    return m_arguments.format == ExportFormat::json
+               ? networkDetailsJson(network)
+               : CSVFile(networkDetailsCSV(network, DateTexts(m_surroundings.locale))).fileWrapper();
+}
+
+void ScanCommand::write(const QString& file, const QByteArray& document)
+{
+    if (file != "-"_L1) {
+        if (const Failure failure = writeFile(file, document)) {
+            trouble(ExitStatus::failed, failure->description);
+        }
+        return;
+    }
+    // A CSV text has no line feed at its end; a document that follows it needs one, and so does a terminal.
+    QByteArray bytes = document;
+    if (std::exchange(m_outputUsed, true) && m_arguments.format == ExportFormat::csv) {
+        bytes.prepend('\n');
+    }
+    if (isatty(fileno(m_output)) != 0 && !bytes.endsWith('\n')) {
+        bytes.append('\n');
+    }
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, m_output) != size || std::fflush(m_output) != 0) {
+        trouble(ExitStatus::failed,
+                u"Cannot write standard output: "_s + QString::fromLocal8Bit(std::strerror(errno)));
+    }
+}
+
+void ScanCommand::trouble(ExitStatus status, const QString& line)
+{
+    if (m_status == ExitStatus::success) {
+        m_status = status;
+    }
+    m_complain(line);
+}
+
+} // namespace aerolith

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "cli/Arguments.h"
+#include "cli/ExitStatus.h"
+#include "cli/ScanRun.h"
+#include "platform/Surroundings.h"
+
+#include <QString>
+
+#include <cstdio>
+#include <functional>
+
+namespace aerolith {
+
+/// One run of aerolith-scan: its cycles, then its exports. Main thread.
+class ScanCommand
+{
+public:
+    /// `complain` is given one line for each thing that went wrong; `output` takes what goes to "-".
+    ScanCommand(const Surroundings& surroundings, Arguments arguments, std::FILE* output,
+                std::function<void(const QString&)> complain, std::function<void(ExitStatus)> onEnd);
+
+private:
+    void endRun(RunOutcome outcome);
+    void writeExports();
+    void writeDetails(const Arguments::Details& asked);
+    [[nodiscard]] QByteArray list();
+    [[nodiscard]] QByteArray details(const WiFiNetwork& network) const;
+    void write(const QString& file, const QByteArray& document);
+    /// The first trouble decides the exit status.
+    void trouble(ExitStatus status, const QString& line);
+
+    Surroundings m_surroundings;
+    Arguments m_arguments;
+    std::FILE* m_output;
+    std::function<void(const QString&)> m_complain;
+    std::function<void(ExitStatus)> m_onEnd;
+    ExitStatus m_status = ExitStatus::success;
+    bool m_outputUsed = false;
+    ScanRun m_run;
+};
+
+} // namespace aerolith

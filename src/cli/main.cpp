@@ -1,0 +1,59 @@
+#include "cli/Arguments.h"
+#include "cli/ExitStatus.h"
+#include "cli/ScanCommand.h"
+#include "platform/qt/StandardLog.h"
+#include "plug/PluggedPlatform.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void print(std::FILE* stream, const QString& text)
+{
+    std::fputs(text.toUtf8().constData(), stream);
+}
+
+int fail(ExitStatus status, const QString& description)
+{
+    print(stderr, u"aerolith-scan: %1\n"_s.arg(escapedForLog(description)));
+    return static_cast<int>(status);
+}
+
+int scan(const Arguments& arguments)
+{
+    const auto platform =
+        plugPlatform({.simulate = arguments.simulate, .logStream = stderr, .settingsPath = std::nullopt});
+    if (!platform.ok()) {
+        return fail(ExitStatus::usage, platform.error().description);
+    }
+    const ScanCommand command(
+        platform.value()->surroundings(), arguments, stdout,
+        [](const QString& line) { fail(ExitStatus::failed, line); },
+        [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); });
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const auto arguments = parseArguments(QCoreApplication::arguments().sliced(1));
+    if (!arguments.ok()) {
+        return fail(ExitStatus::usage, arguments.error().description);
+    }
+    if (arguments.value().help) {
+        print(stdout, usage());
+        return 0;
+    }
+    if (arguments.value().version) {
+        print(stdout, u"aerolith-scan %1\n"_s.arg(QStringLiteral(AEROLITH_VERSION)));
+        return 0;
+    }
+    return scan(arguments.value());
+}

@@ -1,0 +1,178 @@
+// The program as a script meets it: arguments in, documents and an exit status out.
+
+#include "support/Printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Two cycles: two access points, then one of them alone.
+constexpr auto twoCycles = R"({"cycles": [
+    {"joined": {"ssid": "Quay", "bssid": "02:00:00:00:00:02"}, "networks": [
+        {"bssid": "02:00:00:00:00:01", "ssid": "Attic", "rssi": -40, "channel": {"number": 36, "width": 3}, "country": "US"},
+        {"bssid": "02:00:00:00:00:02", "ssid": "Quay", "rssi": -70, "channel": {"number": 6, "width": 1}}]},
+    {"networks": [{"bssid": "02:00:00:00:00:01", "ssid": "Attic", "rssi": -42}]}]})";
+
+struct Outcome
+{
+    int status;
+    QByteArray output;
+    QByteArray errors;
+};
+
+class AerolithScan : public testing::Test
+{
+protected:
+    Outcome run(const QString& arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_CONFIG_HOME"_s, m_folder.path());
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_folder.path());
+        process.start(QStringLiteral(AEROLITH_SCAN), arguments.split(u' ', Qt::SkipEmptyParts));
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    void write(const QString& name, const QByteArray& contents)
+    {
+        QFile file(m_folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+
+    void writeSettings(const QByteArray& contents)
+    {
+        QDir(m_folder.path()).mkdir(u"aerolith"_s);
+        write(u"aerolith/aerolith.conf"_s, contents);
+    }
+
+    QByteArray read(const QString& name)
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("absent");
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+constexpr auto header = R"~("SSID","BSSID","RSSI (dBm)","Channel","Band","Security","Country")~";
+constexpr auto attic = R"("Attic","02:00:00:00:00:01","-40","36","5 GHz","None","US")";
+constexpr auto quay = R"("Quay","02:00:00:00:00:02","-70","6","2.4 GHz","None","Unknown")";
+
+QByteArray lines(std::initializer_list<const char*> texts)
+{
+    QByteArrayList list;
+    for (const char* text : texts) {
+        list.append(text);
+    }
+    return list.join('\n');
+}
+
+} // namespace
+
+TEST_F(AerolithScan, WritesTheListAloneToStandardOutput)
+{
+    write(u"air.json"_s, twoCycles);
+    const Outcome outcome = run(u"--simulate air.json"_s);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, lines({header, quay, attic})) << "the joined network first";
+    // Two threads write these: only the first and the last have their places.
+    QByteArrayList log = outcome.errors.trimmed().split('\n');
+    EXPECT_EQ(log.takeFirst(), "Location access granted.");
+    EXPECT_EQ(log.takeLast(), "Network scan completed");
+    std::sort(log.begin(), log.end());
+    EXPECT_EQ(log, QByteArrayList({"Current network: Quay", "Found 2 networks", "Starting network scan..."}));
+}
+
+TEST_F(AerolithScan, SortsLastAndHonoursTheStoredSettings)
+{
+    write(u"air.json"_s, twoCycles);
+    EXPECT_EQ(run(u"--simulate air.json --cycles 2 --interval 0 --sort ssid"_s).output.split('\n').size(), 3);
+    writeSettings("hiddenBSSIDs=\"@ByteArray([\\\"02:00:00:00:00:02\\\"])\"\nhistoryLimit=1\n");
+    EXPECT_EQ(run(u"--simulate air.json --visible-only"_s).output, lines({header, attic}));
+    const Outcome details =
+        run(u"--simulate air.json --cycles 2 --interval 0 --details 02:00:00:00:00:02 - --format json"_s);
+    const QJsonArray history = QJsonDocument::fromJson(details.output).object()[u"signalHistory"_s].toArray();
+    ASSERT_EQ(history.size(), 1) << "hidden access points have details too";
+    EXPECT_EQ(history[0].toObject()[u"rssi"_s], QJsonValue(-100));
+}
+
+TEST_F(AerolithScan, WritesFilesWholeOrNotAtAll)
+{
+    write(u"air.json"_s, twoCycles);
+    write(u"list.csv"_s, "older");
+    EXPECT_EQ(run(u"--simulate air.json --list list.csv --details 02:00:00:00:00:01 one.csv"_s).output, "");
+    EXPECT_EQ(read(u"list.csv"_s), lines({header, quay, attic}));
+    EXPECT_TRUE(read(u"one.csv"_s).startsWith("\"Field\",\"Value\"\n\"SSID\",\"Attic\"\n"));
+
+    const Outcome refused =
+        run(u"--simulate air.json --list nowhere/list.csv --details 02:00:00:00:00:01 two.csv"_s);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(
+        refused.errors.endsWith("aerolith-scan: Cannot write nowhere/list.csv: No such file or directory\n"));
+    EXPECT_NE(read(u"two.csv"_s), "absent") << "the other exports are still written";
+    EXPECT_EQ(run(u"--simulate air.json --list /dev/full"_s).status, 1);
+}
+
+TEST_F(AerolithScan, TellsByItsStatusWhatWentWrong)
+{
+    write(u"air.json"_s, twoCycles);
+    write(u"failing.json"_s,
+          R"({"cycles": [{"networks": [{"bssid": "aa", "ssid": "A"}]}, {"error": "Out of reach"}]})");
+    write(u"bad.json"_s, R"({"cycles": [{"networks": [{"rssi": "loud"}]}]})");
+    write(u"none.json"_s, R"({"interface": null, "cycles": [{"networks": []}]})");
+
+    struct Case
+    {
+        QString arguments;
+        int status;
+        QByteArray lastLine;
+    };
+
+    const Case cases[] = {
+        {u"--simulate failing.json --cycles 2 --interval 0"_s, 1, "aerolith-scan: Scan failed: Out of reach"},
+        {u"--nonsense"_s, 2, "aerolith-scan: Unknown argument \"--nonsense\" (try --help)"},
+        {u"--simulate absent.json"_s, 2, "aerolith-scan: absent.json: No such file or directory"},
+        {u"--simulate none.json"_s, 3, "aerolith-scan: This machine has no Wi-Fi interface"},
+        {u"--simulate air.json --details aa -"_s, 4, "aerolith-scan: No access point aa was heard"},
+    };
+    for (const Case& expected : cases) {
+        const Outcome outcome = run(expected.arguments);
+        EXPECT_EQ(outcome.status, expected.status) << expected.arguments.toStdString();
+        EXPECT_EQ(outcome.errors.trimmed().split('\n').last(), expected.lastLine);
+    }
+    const Outcome bad = run(u"--simulate bad.json"_s);
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_TRUE(bad.errors.contains("bad.json") && bad.errors.contains("cycles[0].networks[0].rssi"))
+        << bad.errors.toStdString();
+    EXPECT_EQ(run(u"--simulate failing.json --cycles 2 --interval 0"_s).output,
+              QByteArray(header) + "\n\"A\",\"aa\",\"-100\",\"0\",\"Unknown\",\"None\",\"Unknown\"")
+        << "what was collected before is written";
+    EXPECT_EQ(run(u"--help"_s).status, 0);
+    EXPECT_EQ(run(u"--version"_s).output.left(14), "aerolith-scan ");
+}
+
+TEST_F(AerolithScan, SurvivesNonsenseInItsSettings)
+{
+    write(u"air.json"_s, twoCycles);
+    writeSettings("[[[\n\xff\xfe=%%%\nscanInterval=soon\nhistoryLimit=1e99\nhiddenBSSIDs=@Variant(\\0\\0)\n");
+    const Outcome outcome = run(u"--simulate air.json --visible-only"_s);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, lines({header, quay, attic}));
+}
