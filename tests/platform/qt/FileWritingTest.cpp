@@ -1,0 +1,44 @@
+#include "platform/qt/FileWriting.h"
+
+#include "support/Printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("absent");
+}
+
+} // namespace
+
+TEST(FileWriting, ReplacesAFileInOneStep)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.csv"_s);
+    EXPECT_FALSE(writeFile(path, "first, and longer"));
+    EXPECT_FALSE(writeFile(path, "second"));
+    EXPECT_EQ(contents(path), "second");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing else is left behind";
+}
+
+TEST(FileWriting, NamesPathAndReasonAndTouchesNothing)
+{
+    const QTemporaryDir folder;
+    const QString nowhere = folder.filePath(u"no/list.csv"_s);
+    EXPECT_EQ(writeFile(nowhere, "x")->description,
+              u"Cannot write %1: No such file or directory"_s.arg(nowhere));
+    EXPECT_TRUE(writeFile(folder.path(), "x")) << "a folder";
+    EXPECT_EQ(writeFile(u"/dev/full"_s, "x")->description,
+              u"Cannot write /dev/full: No space left on device"_s);
+    EXPECT_TRUE(QFile::exists(u"/dev/full"_s)) << "a device is not replaced by a file";
+}

@@ -1,0 +1,122 @@
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/WorkQueue.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+#include <string>
+#include <thread>
+
+using namespace aerolith;
+
+namespace {
+
+class QtMainQueueTest : public testing::Test
+{
+protected:
+    /// Runs the event loop until a task quits it.
+    void runLoop() { m_loop.exec(); }
+
+    Task quit()
+    {
+        return [this] { m_loop.quit(); };
+    }
+
+    QtMainQueue m_queue;
+
+private:
+    int m_argc = 0;
+    QCoreApplication m_application{m_argc, nullptr};
+    QEventLoop m_loop;
+};
+
+} // namespace
+
+TEST_F(QtMainQueueTest, RunsTasksOfEveryThreadInOrderOnALaterTurn)
+{
+    std::string order;
+    std::thread([&] {
+        m_queue.async([&] { order += 'a'; });
+        m_queue.async([&] {
+            order += 'b';
+            m_queue.async([&] { order += 'd'; });
+            m_queue.async(quit());
+        });
+    }).join();
+    m_queue.async([&] { order += 'c'; });
+    EXPECT_EQ(order, "");
+    runLoop();
+    EXPECT_EQ(order, "abcd");
+}
+
+TEST_F(QtMainQueueTest, DelaysAtLeastAsLongAsAsked)
+{
+    const auto start = std::chrono::steady_clock::now();
+    m_queue.asyncAfter(Seconds(0.02), quit());
+    runLoop();
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
+}
+
+TEST_F(QtMainQueueTest, EndsATimerFromItsOwnTask)
+{
+    int ticks = 0;
+    std::unique_ptr<RepeatingTimer> timer;
+    timer = m_queue.scheduledTimer(Seconds(0.001), [&] {
+        if (++ticks == 3) {
+            timer.reset();
+            m_queue.asyncAfter(Seconds(0.01), quit());
+        }
+    });
+    runLoop();
+    EXPECT_EQ(ticks, 3);
+    EXPECT_TRUE(m_queue.scheduledTimer(Seconds(1e300), [] {})) << "beyond what a timer can count";
+}
+
+TEST_F(QtMainQueueTest, DropsWhatWaitsWhenItEnds)
+{
+    bool ran = false;
+    {
+        QtMainQueue queue;
+        queue.async([&] { ran = true; });
+        queue.asyncAfter(Seconds(0), [&] { ran = true; });
+    }
+    m_queue.asyncAfter(Seconds(0.005), quit());
+    runLoop();
+    EXPECT_FALSE(ran);
+}
+
+TEST(WorkQueue, RunsTasksOneAtATimeInOrderOffTheCallersThread)
+{
+    std::string order;
+    std::promise<std::thread::id> done;
+    WorkQueue queue(QStringLiteral("com.app.wifiscanner.scan"));
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        queue.async([&order, letter] { order += letter; });
+    }
+    queue.async([&] { done.set_value(std::this_thread::get_id()); });
+    EXPECT_NE(done.get_future().get(), std::this_thread::get_id());
+    EXPECT_EQ(order, "abcdefghijklmnopqrstuvwxyz");
+}
+
+TEST(WorkQueue, EndsAfterTheRunningTaskAndDropsTheRest)
+{
+    std::promise<void> running;
+    std::promise<void> release;
+    std::atomic<int> finished = 0;
+    auto queue = std::make_unique<WorkQueue>(QStringLiteral("test"));
+    queue->async([&] {
+        running.set_value();
+        release.get_future().wait();
+        ++finished;
+    });
+    queue->async([&] { finished += 10; });
+    running.get_future().wait();
+    std::thread releaser([&] { release.set_value(); });
+    queue.reset();
+    releaser.join();
+    EXPECT_NE(finished % 10, 0) << "waited for";
+}

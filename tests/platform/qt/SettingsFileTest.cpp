@@ -1,0 +1,108 @@
+#include "platform/qt/SettingsFile.h"
+
+#include "support/Printing.h"
+#include "support/RecordingLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace aerolith;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SettingsFileTest : public testing::Test
+{
+protected:
+    void write(const QByteArray& contents)
+    {
+        QFile file(m_path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+
+    QByteArray contents()
+    {
+        QFile file(m_path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    RecordingLog m_log;
+    QTemporaryDir m_folder;
+    QString m_path = m_folder.filePath(u"aerolith/aerolith.conf"_s);
+};
+
+} // namespace
+
+TEST_F(SettingsFileTest, KeepsValuesForTheNextStart)
+{
+    {
+        SettingsFile settings(m_path, m_log);
+        EXPECT_FALSE(settings.doubleForKey(u"scanInterval"_s));
+        settings.setDouble(15, u"scanInterval"_s);
+        settings.setInteger(std::numeric_limits<qint64>::min(), u"historyLimit"_s);
+        settings.setData("[\"aa:bb\",\"cc:dd\"]", u"hiddenBSSIDs"_s);
+        EXPECT_TRUE(contents().contains(R"~(hiddenBSSIDs="@ByteArray([\"aa:bb\",\"cc:dd\"])")~"))
+            << contents().toStdString();
+    }
+    const SettingsFile settings(m_path, m_log);
+    EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 15.0);
+    EXPECT_EQ(settings.integerForKey(u"historyLimit"_s), std::numeric_limits<qint64>::min());
+    EXPECT_EQ(settings.dataForKey(u"hiddenBSSIDs"_s), QByteArray("[\"aa:bb\",\"cc:dd\"]"));
+    EXPECT_EQ(m_log.take(), QStringList());
+}
+
+TEST_F(SettingsFileTest, ReadsWhatAPersonHasWritten)
+{
+    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
+    write("scanInterval=15\nhistoryLimit=20\nhiddenBSSIDs=\"@ByteArray([\\\"aa:bb\\\"])\"\n"
+          "asText=\"[\\\"aa:bb\\\"]\"\n");
+    const SettingsFile settings(m_path, m_log);
+    EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 15.0);
+    EXPECT_EQ(settings.integerForKey(u"historyLimit"_s), 20);
+    EXPECT_EQ(settings.dataForKey(u"hiddenBSSIDs"_s), QByteArray("[\"aa:bb\"]"));
+    EXPECT_EQ(settings.dataForKey(u"asText"_s), QByteArray("[\"aa:bb\"]"));
+}
+
+TEST_F(SettingsFileTest, CountsNonsenseAsAbsentAndStaysUsable)
+{
+    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
+    for (const QByteArray& nonsense :
+         {QByteArray("scanInterval=nan\nhistoryLimit=9e99\nhiddenBSSIDs=1, 2, 3\n"),
+          QByteArray("scanInterval=ten\nhistoryLimit=\nhiddenBSSIDs=@Variant(\\0\\0\\0\\x7f\\0)\n"),
+          QByteArray("[[[\n\xff\xfe\0=%zz\nscanInterval\n", 26), QByteArray(5000, '%')}) {
+        write(nonsense);
+        SettingsFile settings(m_path, m_log);
+        EXPECT_FALSE(settings.doubleForKey(u"scanInterval"_s)) << nonsense.toStdString();
+        EXPECT_FALSE(settings.integerForKey(u"historyLimit"_s));
+        EXPECT_FALSE(settings.dataForKey(u"hiddenBSSIDs"_s));
+        settings.setDouble(7, u"scanInterval"_s);
+        EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 7.0);
+    }
+}
+
+TEST_F(SettingsFileTest, GoesOnWithAFileThatCannotBeWritten)
+{
+    QFile blocker(m_folder.filePath(u"aerolith"_s));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    SettingsFile settings(m_path, m_log);
+    m_log.take();
+    settings.setDouble(7, u"scanInterval"_s);
+    EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 7.0);
+    EXPECT_EQ(m_log.take(),
+              QStringList(u"Cannot write the settings file %1: access refused or disk full"_s.arg(m_path)));
+}
+
+TEST_F(SettingsFileTest, LivesWhereTheDesktopKeepsSettings)
+{
+    qputenv("XDG_CONFIG_HOME", "/somewhere");
+    EXPECT_EQ(SettingsFile::userPath(), u"/somewhere/aerolith/aerolith.conf"_s);
+    qunsetenv("XDG_CONFIG_HOME");
+    qputenv("HOME", "/home/ada");
+    EXPECT_EQ(SettingsFile::userPath(), u"/home/ada/.config/aerolith/aerolith.conf"_s);
+}
