@@ -1,6 +1,6 @@
 #include "platform/simulated/ScenarioReader.h"
 
-#include "platform/simulated/JsonPlace.h"
+#include "platform/simulated/JsonRead.h"
 #include "platform/simulated/RepeatedKey.h"
 
 #include <QFile>
@@ -8,71 +8,23 @@
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <limits>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace aerolith {
 
-// The read() functions have no anonymous namespace around them: JsonMembers finds them by their argument.
-
-// Texts are taken as they are, so that a scenario can hold any SSID and any form of address; numbers have
-// these ranges. They are wide, so that a scenario can hold values that no access point sends, and end where
-// 32-bit arithmetic does.
+// Texts are taken as they are, so that a scenario can hold any SSID and any form of address. Numbers have
+// ranges: wide ones, so that a scenario can hold values that no access point sends, which end where 32-bit
+// arithmetic does.
 namespace {
 
-struct IntegerIn
-{
-    qint64& target;
-    qint64 least;
-    qint64 most;
-};
-
-constexpr qint64 mostInteger = std::numeric_limits<qint32>::max();
 constexpr qint64 mostCodeInSet = 63;
 constexpr double mostScanSeconds = 24.0 * 60 * 60;
 constexpr qsizetype mostBytes = 64 * 1024 * 1024;
 
-IntegerIn signedInteger(qint64& target)
-{
-    return {target, std::numeric_limits<qint32>::min(), mostInteger};
-}
-
-IntegerIn unsignedInteger(qint64& target)
-{
-    return {target, 0, mostInteger};
-}
-
 } // namespace
 
-static void read(const JsonPlace& place, IntegerIn integer)
-{
-    const QJsonValue& value = place.value();
-    // Both ends of every range are exact as a double.
-    const double number = value.toDouble();
-    if (!value.isDouble() || number != std::trunc(number) || number < static_cast<double>(integer.least) ||
-        number > static_cast<double>(integer.most)) {
-        place.expected(u"an integer from %1 to %2"_s.arg(integer.least).arg(integer.most));
-        return;
-    }
-    integer.target = value.toInteger();
-}
-
-static void read(const JsonPlace& place, qint64& target)
-{
-    read(place, signedInteger(target));
-}
-
-static void read(const JsonPlace& place, bool& target)
-{
-    if (!place.value().isBool()) {
-        place.expected(u"true or false"_s);
-    }
-    target = place.value().toBool();
-}
+// Not in the anonymous namespace: JsonMembers has to find these.
 
 static void read(const JsonPlace& place, Seconds& target)
 {
@@ -81,37 +33,6 @@ static void read(const JsonPlace& place, Seconds& target)
         place.expected(u"a number from 0 to %1"_s.arg(mostScanSeconds));
     }
     target = Seconds(seconds);
-}
-
-static void read(const JsonPlace& place, QString& target)
-{
-    // An escape may stand for half of a surrogate pair, which no UTF-8 text can hold.
-    if (!place.value().isString() || !place.value().toString().isValidUtf16()) {
-        place.expected(u"a string of Unicode text"_s);
-    }
-    target = place.value().toString();
-}
-
-template <typename Target>
-static void read(const JsonPlace& place, std::optional<Target>& target)
-{
-    target.reset();
-    if (!place.value().isNull()) {
-        read(place.orNull(), target.emplace());
-    }
-}
-
-template <typename Target>
-static void read(const JsonPlace& place, QList<Target>& target)
-{
-    if (!place.value().isArray()) {
-        place.expected(u"a list"_s);
-    }
-    const qsizetype count = place.value().toArray().size();
-    target.resize(count);
-    for (qsizetype index = 0; index < count && !place.failed(); ++index) {
-        read(place.element(index), target[index]);
-    }
 }
 
 /// An element of a CodeSet.
@@ -132,21 +53,6 @@ static void read(const JsonPlace& place, CodeSet& target)
     for (const Code& code : codes) {
         target.insert(static_cast<int>(code.value));
     }
-}
-
-template <typename Choice, std::size_t count>
-static void readChoice(const JsonPlace& place, Choice& target,
-                       const std::array<std::pair<QLatin1StringView, Choice>, count>& choices)
-{
-    QStringList names;
-    for (const auto& [name, choice] : choices) {
-        if (place.value().isString() && place.value().toString() == name) {
-            target = choice;
-            return;
-        }
-        names.append(u'"' + name + u'"');
-    }
-    place.expected(u"one of "_s + names.join(u", "));
 }
 
 static void read(const JsonPlace& place, CLAuthorizationStatus& target)
