@@ -8,6 +8,7 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using nl80211::BootTime;
+using nl80211::ScanEvent;
 using nl80211::ScanStage;
 using nl80211::ScanTrigger;
 using Deadline = nl80211::ScanEvents::Deadline;
@@ -18,6 +19,12 @@ constexpr auto startLimit = 15s;
 constexpr auto endLimit = 30s;
 // A scan of every channel, with those where it may only listen.
 constexpr auto longestScan = 10s;
+
+// A scan that was on its way when the request came in may begin after it, without the name.
+bool asksFor(const ScanEvent& event, const std::optional<QByteArray>& ssid)
+{
+    return !ssid || event.ssids.isEmpty() || event.ssids.contains(*ssid);
+}
 
 Result<BootTime> newestScan(ScanService& service, BootTime begun)
 {
@@ -43,25 +50,26 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
     auto deadline = requested + startLimit;
     bool startSeen = false;
     while (trigger.ok()) {
-        const auto stage = events.wait(deadline);
-        if (!stage.ok()) {
-            return stage.error();
+        const auto event = events.wait(deadline);
+        if (!event.ok()) {
+            return event.error();
         }
-        if (!stage.value()) {
+        if (!event.value()) {
             return newestScan(service, begun);
         }
-        switch (*stage.value()) {
+        switch (event.value()->stage) {
         case ScanStage::started:
             startSeen = true;
             deadline = requested + endLimit;
             break;
         case ScanStage::finished:
-            if (startSeen) {
+            if (startSeen && asksFor(*event.value(), ssid)) {
                 return begun;
             }
             if (!ssid) {
                 return runningSince;
             }
+            startSeen = false;
             if (trigger.value() == ScanTrigger::alreadyRunning) {
                 trigger = service.request(ssid);
             }

@@ -4,6 +4,7 @@
 
 namespace aerolith {
 
+using nl80211::ScanEvent;
 using nl80211::ScanStage;
 
 LastScanEvents::LastScanEvents(ScanService& service, std::chrono::milliseconds interval)
@@ -11,21 +12,21 @@ LastScanEvents::LastScanEvents(ScanService& service, std::chrono::milliseconds i
 {
 }
 
-Result<std::optional<ScanStage>> LastScanEvents::wait(Deadline deadline)
+Result<std::optional<ScanEvent>> LastScanEvents::wait(Deadline deadline)
 {
     if (m_endToTell) {
         m_endToTell = false;
-        return std::optional(ScanStage::finished);
+        return std::optional(ScanEvent{.stage = ScanStage::finished});
     }
     for (;;) {
         const auto lastScan = m_service.lastScan();
         if (lastScan && lastScan != m_lastScan) {
             m_lastScan = lastScan;
             m_endToTell = true;
-            return std::optional(ScanStage::started);
+            return std::optional(ScanEvent{.stage = ScanStage::started});
         }
         if (Deadline::clock::now() >= deadline) {
-            return std::optional<ScanStage>();
+            return std::optional<ScanEvent>();
         }
         std::this_thread::sleep_for(m_interval);
     }

@@ -15,7 +15,7 @@ public:
     /// `service` outlives this object.
     LastScanEvents(ScanService& service, std::chrono::milliseconds interval);
 
-    [[nodiscard]] Result<std::optional<nl80211::ScanStage>> wait(Deadline deadline) override;
+    [[nodiscard]] Result<std::optional<nl80211::ScanEvent>> wait(Deadline deadline) override;
 
 private:
     ScanService& m_service;

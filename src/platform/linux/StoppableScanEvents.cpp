@@ -7,7 +7,7 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
-using nl80211::ScanStage;
+using nl80211::ScanEvent;
 
 StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> events,
                                          const std::atomic<bool>& stopped)
@@ -15,13 +15,13 @@ StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> ev
 {
 }
 
-Result<std::optional<ScanStage>> StoppableScanEvents::wait(Deadline deadline)
+Result<std::optional<ScanEvent>> StoppableScanEvents::wait(Deadline deadline)
 {
     while (!m_stopped) {
         const auto turn = std::min(deadline, Deadline::clock::now() + std::chrono::milliseconds(100));
-        const auto stage = m_events->wait(turn);
-        if (!stage.ok() || stage.value() || turn == deadline) {
-            return stage;
+        const auto event = m_events->wait(turn);
+        if (!event.ok() || event.value() || turn == deadline) {
+            return event;
         }
     }
     return Error{u"The Wi-Fi scan was stopped"_s};

@@ -15,7 +15,7 @@ public:
     StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> events, const std::atomic<bool>& stopped);
 
     /// Also fails within a tenth of a second after `stopped` has been set.
-    [[nodiscard]] Result<std::optional<nl80211::ScanStage>> wait(Deadline deadline) override;
+    [[nodiscard]] Result<std::optional<nl80211::ScanEvent>> wait(Deadline deadline) override;
 
 private:
     std::shared_ptr<nl80211::ScanEvents> m_events;

@@ -14,6 +14,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using nl80211::BootTime;
+using nl80211::ScanEvent;
 using nl80211::ScanStage;
 using nl80211::ScanTrigger;
 using testing::ElementsAre;
@@ -47,37 +48,43 @@ struct FakeService : ScanService
 // Tells what it is given; after that, every deadline passes at once.
 struct ScriptedEvents : nl80211::ScanEvents
 {
-    explicit ScriptedEvents(std::deque<ScanStage> script) : stages(std::move(script)) {}
+    explicit ScriptedEvents(std::deque<ScanEvent> events) : script(std::move(events)) {}
 
-    Result<std::optional<ScanStage>> wait(Deadline deadline) override
+    Result<std::optional<ScanEvent>> wait(Deadline deadline) override
     {
         deadlines.push_back(deadline);
         if (failure) {
             return *failure;
         }
-        if (stages.empty()) {
-            return std::optional<ScanStage>();
+        if (script.empty()) {
+            return std::optional<ScanEvent>();
         }
-        const auto stage = stages.front();
-        stages.pop_front();
-        return std::optional(stage);
+        const auto event = script.front();
+        script.pop_front();
+        return std::optional(event);
     }
 
-    std::deque<ScanStage> stages;
+    std::deque<ScanEvent> script;
     std::optional<Error> failure;
     std::vector<Deadline> deadlines;
 };
 
-constexpr auto started = ScanStage::started;
-constexpr auto finished = ScanStage::finished;
-constexpr auto aborted = ScanStage::aborted;
+const ScanEvent started{.stage = ScanStage::started};
+const ScanEvent finished{.stage = ScanStage::finished};
+const ScanEvent aborted{.stage = ScanStage::aborted};
+
+ScanEvent finishedFor(const QList<QByteArray>& ssids)
+{
+    return {.stage = ScanStage::finished, .ssids = ssids};
+}
+
 constexpr BootTime begun = 100s;
 
 class AwaitScanTest : public testing::Test
 {
 protected:
     /// Since when to listen, or nothing where the scan failed.
-    std::optional<BootTime> await(std::deque<ScanStage> script, const std::optional<QByteArray>& ssid = {})
+    std::optional<BootTime> await(std::deque<ScanEvent> script, const std::optional<QByteArray>& ssid = {})
     {
         ScriptedEvents events(std::move(script));
         const auto result = awaitScan(m_service, events, begun, ssid);
@@ -105,6 +112,14 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
     m_service.lastScans = {std::nullopt};
     EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun);
     EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
+}
+
+TEST_F(AwaitScanTest, onlyAScanThatAsksForTheNameAnswersAScanForAName)
+{
+    EXPECT_EQ(await({started, finishedFor({""})}, "x"_ba), std::nullopt);
+    EXPECT_EQ(await({started, finishedFor({""}), finishedFor({"", "x"})}, "x"_ba), std::nullopt);
+    EXPECT_EQ(await({started, finishedFor({"", "y"}), started, finishedFor({"", "x"})}, "x"_ba), begun);
+    EXPECT_EQ(await({started, finishedFor({"y"})}), begun);
 }
 
 TEST_F(AwaitScanTest, asksAgainWhereTheRunningScanMadeTheRequestForgotten)

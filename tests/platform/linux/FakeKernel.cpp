@@ -9,6 +9,7 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 using nl80211::BssEntry;
 using nl80211::InterfaceInfo;
+using nl80211::ScanEvent;
 using nl80211::ScanStage;
 using nl80211::ScanTrigger;
 
@@ -27,7 +28,7 @@ class Events : public nl80211::ScanEvents
 public:
     explicit Events(FakeKernel& kernel) : m_kernel(kernel) {}
 
-    Result<std::optional<ScanStage>> wait(Deadline deadline) override { return m_kernel.next(deadline); }
+    Result<std::optional<ScanEvent>> wait(Deadline deadline) override { return m_kernel.next(deadline); }
 
 private:
     FakeKernel& m_kernel;
@@ -54,22 +55,22 @@ BssEntry& FakeKernel::hear(const QString& address, const QByteArray& ssid, std::
     return entries.last();
 }
 
-void FakeKernel::tell(ScanStage stage)
+void FakeKernel::tell(ScanStage stage, const QList<QByteArray>& ssids)
 {
     const std::lock_guard lock(m_mutex);
-    m_events.push_back(stage);
+    m_events.push_back({.stage = stage, .ssids = ssids});
     m_changed.notify_all();
 }
 
-std::optional<ScanStage> FakeKernel::next(nl80211::ScanEvents::Deadline deadline)
+std::optional<ScanEvent> FakeKernel::next(nl80211::ScanEvents::Deadline deadline)
 {
     std::unique_lock lock(m_mutex);
     if (!m_changed.wait_until(lock, deadline, [this] { return !m_events.empty(); })) {
         return {};
     }
-    const auto stage = m_events.front();
+    const auto event = m_events.front();
     m_events.pop_front();
-    return stage;
+    return event;
 }
 
 Result<QList<InterfaceInfo>> FakeKernel::interfaces()

@@ -19,7 +19,7 @@ public:
     nl80211::BssEntry& hear(const QString& address, const QByteArray& ssid,
                             std::chrono::milliseconds age = std::chrono::milliseconds(0));
 
-    void tell(nl80211::ScanStage stage);
+    void tell(nl80211::ScanStage stage, const QList<QByteArray>& ssids = {});
 
     [[nodiscard]] Result<QList<nl80211::InterfaceInfo>> interfaces() override;
     [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t radio) override;
@@ -30,7 +30,7 @@ public:
     scanEvents(std::uint32_t interfaceIndex) override;
 
     /// The next event, or none at the deadline.
-    [[nodiscard]] std::optional<nl80211::ScanStage> next(nl80211::ScanEvents::Deadline deadline);
+    [[nodiscard]] std::optional<nl80211::ScanEvent> next(nl80211::ScanEvents::Deadline deadline);
 
     QList<nl80211::InterfaceInfo> interfaceList;
     std::optional<Error> failure;
@@ -44,7 +44,7 @@ public:
 private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::deque<nl80211::ScanStage> m_events;
+    std::deque<nl80211::ScanEvent> m_events;
 };
 
 } // namespace aerolith

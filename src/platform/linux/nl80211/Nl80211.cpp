@@ -74,7 +74,7 @@ public:
     {
     }
 
-    Result<std::optional<ScanStage>> wait(Deadline deadline) override
+    Result<std::optional<ScanEvent>> wait(Deadline deadline) override
     {
         for (;;) {
             while (!m_messages.isEmpty()) {
@@ -83,7 +83,7 @@ public:
                     return event.error();
                 }
                 if (event.value() && event.value()->interfaceIndex == m_interfaceIndex) {
-                    return std::optional(event.value()->stage);
+                    return event.value();
                 }
             }
             const auto received = m_socket->receive(deadline);
@@ -91,7 +91,7 @@ public:
                 return received.error();
             }
             if (received.value().isEmpty()) {
-                return std::optional<ScanStage>();
+                return std::optional<ScanEvent>();
             }
             m_messages = received.value();
         }

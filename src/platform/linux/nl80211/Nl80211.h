@@ -30,7 +30,7 @@ public:
 
     /// Blocks until the next event; absent when there was none before the deadline. After an error, events
     /// may have been missed.
-    [[nodiscard]] virtual Result<std::optional<ScanStage>> wait(Deadline deadline) = 0;
+    [[nodiscard]] virtual Result<std::optional<ScanEvent>> wait(Deadline deadline) = 0;
 };
 
 enum class ScanTrigger

@@ -39,14 +39,25 @@ Result<std::optional<ScanEvent>> decodeScanEvent(Bytes message)
         return std::optional<ScanEvent>();
     }
     std::optional<std::uint32_t> interfaceIndex;
-    const auto visit = [&interfaceIndex](const Attribute& attribute) -> Failure {
-        return attribute.type == NL80211_ATTR_IFINDEX ? readValue(attribute, interfaceIndex) : Failure();
+    QList<QByteArray> ssids;
+    const auto visit = [&](const Attribute& attribute) -> Failure {
+        switch (attribute.type) {
+        case NL80211_ATTR_IFINDEX:
+            return readValue(attribute, interfaceIndex);
+        case NL80211_ATTR_SCAN_SSIDS:
+            return visitAttributes(attribute.payload, "the names of a scan"_L1, [&](const Attribute& ssid) {
+                ssids.append(byteArray(ssid.payload));
+                return Failure();
+            });
+        default:
+            return {};
+        }
     };
     if (Failure failure = visitAttributes(taken.value()->attributes, "a scan event"_L1, visit)) {
         return *failure;
     }
     // A scan by a device without a network interface (P2P) has no index.
-    return interfaceIndex ? std::optional(ScanEvent{*interfaceIndex, *stage}) : std::nullopt;
+    return interfaceIndex ? std::optional(ScanEvent{*interfaceIndex, *stage, ssids}) : std::nullopt;
 }
 
 } // namespace aerolith::nl80211

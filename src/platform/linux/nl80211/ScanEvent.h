@@ -3,6 +3,9 @@
 #include "platform/Result.h"
 #include "platform/linux/ieee80211/Bytes.h"
 
+#include <QByteArray>
+#include <QList>
+
 #include <cstdint>
 #include <optional>
 
@@ -20,6 +23,9 @@ struct ScanEvent
 {
     std::uint32_t interfaceIndex = 0;
     ScanStage stage = ScanStage::started;
+    /// The names that the scan asks for, an empty one for any name. None where it only listens or the source
+    /// of the event does not say.
+    QList<QByteArray> ssids = {};
 
     friend bool operator==(const ScanEvent&, const ScanEvent&) = default;
 };

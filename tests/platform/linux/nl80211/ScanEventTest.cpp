@@ -25,10 +25,23 @@ TEST(ScanEvent, TellsTheStageAndTheInterface)
     EXPECT_EQ(event(NL80211_CMD_TRIGGER_SCAN, {}), std::nullopt);
 }
 
+TEST(ScanEvent, TellsTheNamesThatTheScanAsksFor)
+{
+    const QByteArray name("a\0b ", 4);
+    const QByteArray attributes =
+        test::numberAttribute(NL80211_ATTR_IFINDEX, quint32{7}) +
+        test::attribute(NL80211_ATTR_SCAN_SSIDS, test::attribute(1, {}) + test::attribute(2, name));
+    EXPECT_EQ(event(NL80211_CMD_NEW_SCAN_RESULTS, attributes),
+              (ScanEvent{7, ScanStage::finished, {QByteArray(), name}}));
+}
+
 TEST(ScanEvent, IsRefusedWhenBroken)
 {
     const QByteArray index = test::numberAttribute(NL80211_ATTR_IFINDEX, quint32{7});
-    for (const QByteArray& broken : {QByteArray(), test::message(NL80211_CMD_TRIGGER_SCAN, index.chopped(1)),
+    const QByteArray cutName =
+        test::attribute(NL80211_ATTR_SCAN_SSIDS, test::attribute(1, "abcd").chopped(1));
+    for (const QByteArray& broken : {QByteArray(), test::message(NL80211_CMD_TRIGGER_SCAN, index + cutName),
+                                     test::message(NL80211_CMD_TRIGGER_SCAN, index.chopped(1)),
                                      test::message(NL80211_CMD_TRIGGER_SCAN, index).chopped(1)}) {
         EXPECT_FALSE(decodeScanEvent(bytesOf(broken)).ok()) << broken.toHex().constData();
     }
