@@ -202,6 +202,21 @@ TEST(Capture, TellsWhatIsJoined)
     EXPECT_EQ(joinedEntry(apart.value()), nullptr);
 }
 
+TEST(Capture, ListsTheChannelsOfARadio)
+{
+    const auto channels = decodeSupportedChannels(bytesOf(dataFile("wiphy.nl")));
+    ASSERT_TRUE(channels.ok());
+    QMap<qint64, QString> widths;
+    for (const CWChannel& channel : channels.value()) {
+        widths[channel.channelNumber] += QString::number(channel.channelWidth);
+    }
+    EXPECT_EQ(widths.size(), 13 + 24) << "14 and those beyond 165 are forbidden";
+    EXPECT_EQ(widths[1], u"12"_s);
+    EXPECT_EQ(widths[13], u"12"_s);
+    EXPECT_EQ(widths[36], u"1234"_s);
+    EXPECT_EQ(widths[165], u"123"_s) << "no 160 MHz above 5735 MHz";
+}
+
 void decodeAll(const QByteArray& bytes)
 {
     const test::TightBytes tight(bytes);
@@ -216,7 +231,7 @@ void decodeAll(const QByteArray& bytes)
 
 TEST(Capture, MayBeCutAnywhere)
 {
-    const QByteArray dump = dataFile("scan.nl");
+    const QByteArray dump = dataFile("scan.nl") + dataFile("wiphy.nl");
     for (qsizetype begin = 0; begin < dump.size();) {
         nlmsghdr header;
         std::memcpy(&header, dump.constData() + begin, sizeof header);
