@@ -9,7 +9,8 @@
 
 namespace aerolith {
 
-/// `count` access points as a scan might hear them: mixed security, channels and modes, in no order of address.
+/// `count` access points as a scan might hear them: mixed security, channels and modes, in no order of
+/// address.
 inline QList<CWNetwork> syntheticResults(int count)
 {
     std::mt19937 random(42);
@@ -46,9 +47,10 @@ inline AccessPoints knownAfter(const QList<CWNetwork>& results, int cycles, Iden
 {
     AccessPoints known;
     for (int cycle = 0; cycle < cycles; ++cycle) {
-        known = mergeScan(known,
-                          {.results = results, .scanTime = TimePoint(std::chrono::seconds(cycle)), .currentBSSID = {}},
-                          [] { return 50; }, identifiers);
+        known = mergeScan(
+            known,
+            {.results = results, .scanTime = TimePoint(std::chrono::seconds(cycle)), .currentBSSID = {}},
+            [] { return 50; }, identifiers);
     }
     return known;
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <array>
 #include <initializer_list>
 
 namespace aerolith {
@@ -19,9 +20,21 @@ public:
     [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
-    void addField(QStringView field);
-
     QString m_text;
+};
+
+/// A whole number as a field: plain decimal, without memory of its own from the heap.
+class DecimalField
+{
+public:
+    explicit DecimalField(qint64 number);
+
+    [[nodiscard]] QStringView text() const { return QStringView(m_digits).sliced(m_begin); }
+
+private:
+    /// The smallest 64-bit number has a sign and 19 digits.
+    std::array<char16_t, 20> m_digits{};
+    qsizetype m_begin = 20;
 };
 
 } // namespace aerolith

@@ -21,12 +21,12 @@ void addProperties(CsvText& csv, const WiFiNetwork& network, const DateTexts& te
     csv.addRow({u"RSSI", withUnit(network.rssi, u"dBm"_s)});
     csv.addRow({u"Noise", withUnit(network.noise, u"dBm"_s)});
     csv.addRow({u"SNR", withUnit(network.rssi - network.noise, u"dB"_s)});
-    csv.addRow({u"Channel", QString::number(network.channel)});
+    csv.addRow({u"Channel", DecimalField(network.channel).text()});
     csv.addRow({u"Channel Width", withUnit(network.channelWidth, u"MHz"_s)});
     csv.addRow({u"Band", network.channelBand});
     csv.addRow({u"Security", network.security});
     csv.addRow({u"Network Type", network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s});
-    csv.addRow({u"Beacon Interval", QString::number(network.beaconInterval)});
+    csv.addRow({u"Beacon Interval", DecimalField(network.beaconInterval).text()});
     csv.addRow({u"PHY Modes", network.isPhyModeSupported.join(u", "_s)});
     csv.addRow({u"Current Network", network.isCurrentNetwork ? u"Yes"_s : u"No"_s});
     csv.addRow({u"Last Seen", texts.mediumDateTime(network.timestamp)});
@@ -55,11 +55,10 @@ QString networkListCSV(const WiFiNetworkList& networks)
     CsvText csv;
     csv.reserve((networks.size() + 1) * usualRow);
     csv.addRow({u"SSID", u"BSSID", u"RSSI (dBm)", u"Channel", u"Band", u"Security", u"Country"});
-    const QString noCountry = u"Unknown"_s;
     for (const WiFiNetwork& network : networks) {
         csv.addRow({network.ssid, network.bssid, QString::number(network.rssi),
                     QString::number(network.channel), network.channelBand, network.security,
-                    network.countryCode ? *network.countryCode : noCountry});
+                    network.countryCode ? QStringView(*network.countryCode) : u"Unknown"});
     }
     return csv.text();
 }
