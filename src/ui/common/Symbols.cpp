@@ -1,6 +1,5 @@
 #include "ui/common/Symbols.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -38,11 +37,6 @@ QPixmap draw(const QString& name, int size, const QColor& color, qreal devicePix
 }
 
 } // namespace
-
-bool exists(const QString& name)
-{
-    return QFile::exists(fileOf(name));
-}
 
 QPixmap pixmap(const QString& name, int size, const QColor& color, qreal devicePixelRatio)
 {

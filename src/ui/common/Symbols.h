@@ -11,8 +11,6 @@ class QPainter;
 /// in one colour; CMakeLists.txt lists them, and symbols/README.md tells how one is drawn. GUI thread.
 namespace aerolith::Symbols {
 
-[[nodiscard]] bool exists(const QString& name);
-
 /// The symbol in `color`, `size` device-independent pixels square, drawn for the device's own pixels. Cached.
 /// Empty for a name that there is no symbol for.
 [[nodiscard]] QPixmap pixmap(const QString& name, int size, const QColor& color, qreal devicePixelRatio);

@@ -5,7 +5,6 @@
 #include <QCursor>
 #include <QHoverEvent>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -29,7 +28,6 @@ void NetworkListView::showNetworks(const ShownNetworks& shown)
     const QScopedValueRollback updating(m_updating, true);
     const bool scrolls = hasAutoScroll();
     setAutoScroll(false);
-    const int position = verticalScrollBar()->value();
     const int focusedRow = currentIndex().row();
 
     m_networks.show(shown);
@@ -37,7 +35,6 @@ void NetworkListView::showNetworks(const ShownNetworks& shown)
     highlightSelected();
     if (isVisible()) {
         executeDelayedItemsLayout();
-        verticalScrollBar()->setValue(position);
         updateHover();
     }
     setAutoScroll(scrolls);
@@ -87,7 +84,8 @@ QItemSelectionModel::SelectionFlags NetworkListView::selectionCommand(const QMod
 {
     const auto command = QListView::selectionCommand(index, event);
     // The user selects another access point, never none.
-    return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+    const bool deselects = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
+    return deselects ? QItemSelectionModel::NoUpdate : command;
 }
 
 void NetworkListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -1,0 +1,146 @@
+#include "ui/main/NetworkListModel.h"
+
+#include "support/Printing.h"
+#include "ui/main/NetworkRowView.h"
+
+#include <QAbstractItemModelTester>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+WiFiNetwork record(const QString& bssid, qint64 rssi = -50)
+{
+    WiFiNetwork network;
+    network.bssid = bssid;
+    network.ssid = u"net "_s + bssid;
+    network.rssi = rssi;
+    return network;
+}
+
+/// A row for each letter.
+ShownNetworks shown(const QString& letters, const QSet<QString>& hidden = {})
+{
+    ShownNetworks shown{.networks = {}, .hidden = hidden};
+    for (const QChar letter : letters) {
+        shown.networks.append(record(letter));
+    }
+    return shown;
+}
+
+/// The rows' letters, as a view reads them.
+QString rows(const NetworkListModel& model)
+{
+    QString letters;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        letters +=
+            model.data(model.index(row), NetworkListModel::rowRole).value<NetworkRowView>().network.bssid;
+    }
+    return letters;
+}
+
+/// The rows announced as changed.
+std::vector<int> changedRows(const QSignalSpy& dataChanged)
+{
+    std::vector<int> rows;
+    for (const QList<QVariant>& signal : dataChanged) {
+        for (int row = signal[0].toModelIndex().row(); row <= signal[1].toModelIndex().row(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
+class NetworkListModelTest : public testing::Test
+{
+protected:
+    NetworkListModel model;
+    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+} // namespace
+
+TEST_F(NetworkListModelTest, CarriesWhatIsHeldToTheRowOfTheSameAccessPoint)
+{
+    for (const auto& [before, after] : std::initializer_list<std::pair<QString, QString>>{
+             {u""_s, u"abc"_s},
+             {u"abc"_s, u""_s},
+             {u"abc"_s, u"cab"_s},
+             {u"abcdef"_s, u"axbfcy"_s},
+             {u"abc"_s, u"xyz"_s},
+             {u"abcd"_s, u"ad"_s},
+             {u"ad"_s, u"abcd"_s},
+         }) {
+        SCOPED_TRACE((before + u" to "_s + after).toStdString());
+        model.show(shown(before));
+        QList<QPersistentModelIndex> held;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            held.append(model.index(row));
+        }
+
+        model.show(shown(after));
+        EXPECT_EQ(rows(model), after);
+        for (int row = 0; row < before.size(); ++row) {
+            EXPECT_EQ(held[row].row(), after.indexOf(before[row]));
+        }
+    }
+}
+
+TEST_F(NetworkListModelTest, EndsUpWithThePublishedListWhateverCameBefore)
+{
+    QRandomGenerator random(7);
+    const QString all = u"abcdefghijklmnopqrstuvwxyz"_s;
+    for (int round = 0; round < 200; ++round) {
+        QString letters = all;
+        std::shuffle(letters.begin(), letters.end(), random);
+        letters.truncate(random.bounded(all.size() + 1));
+        model.show(shown(letters));
+        ASSERT_EQ(rows(model), letters);
+    }
+}
+
+TEST_F(NetworkListModelTest, AnnouncesOnlyRowsThatLookDifferent)
+{
+    ShownNetworks networks = shown(u"abcdef"_s);
+    model.show(networks);
+    const QSignalSpy dataChanged(&model, &QAbstractItemModel::dataChanged);
+    const QSignalSpy layoutChanged(&model, &QAbstractItemModel::layoutChanged);
+
+    // A new record of the same look: what it adds is not in the row.
+    networks.networks[5].timestamp += std::chrono::seconds(10);
+    model.show(networks);
+    EXPECT_THAT(changedRows(dataChanged), ElementsAre());
+
+    networks.networks[0].rssi = -71;
+    networks.networks[1].isCurrentNetwork = true;
+    networks.networks[3].ssid = u"renamed"_s;
+    networks.hidden = {u"e"_s};
+    model.show(networks);
+    EXPECT_THAT(changedRows(dataChanged), ElementsAre(0, 1, 3, 4));
+    EXPECT_EQ(dataChanged.size(), 2) << "one signal for each run of rows";
+    EXPECT_TRUE(layoutChanged.isEmpty());
+    EXPECT_TRUE(model.data(model.index(4), NetworkListModel::rowRole).value<NetworkRowView>().isHidden);
+}
+
+TEST_F(NetworkListModelTest, TellsEveryMixUpInThreeSteps)
+{
+    model.show(shown(u"abcdefghijklmnop"_s));
+    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    const QSignalSpy moved(&model, &QAbstractItemModel::layoutChanged);
+    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    model.show(shown(u"pAnBlCjDhEfGdHbI"_s));
+    EXPECT_EQ(inserted.size(), 1);
+    EXPECT_EQ(moved.size(), 1);
+    EXPECT_EQ(removed.size(), 1);
+}
+
+} // namespace aerolith
