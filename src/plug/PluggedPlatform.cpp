@@ -1,5 +1,6 @@
 #include "plug/PluggedPlatform.h"
 
+#include "platform/linux/LinuxMachine.h"
 #include "platform/qt/Locale.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/SettingsFile.h"
@@ -23,11 +24,12 @@ template <typename Machine>
 class Plugged : public PluggedPlatform
 {
 public:
-    template <typename... MachineArguments>
-    explicit Plugged(const PlatformOptions& options, MachineArguments&&... arguments)
+    /// `make` is given the log and the main queue, and returns the machine.
+    template <typename Make>
+    Plugged(const PlatformOptions& options, Make make)
         : m_log(options.logStream)
         , m_settings(options.settingsPath.value_or(SettingsFile::userPath()), m_log)
-        , m_machine(std::forward<MachineArguments>(arguments)..., m_mainQueue)
+        , m_machine(make(m_log, m_mainQueue))
     {
     }
 
@@ -64,13 +66,15 @@ Result<Scenario> scenarioOf(const Simulation& simulation)
 Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const PlatformOptions& options)
 {
     if (!options.simulate) {
-        return Error{u"This build knows simulated radios only: use --simulate"_s};
+        return {std::make_unique<Plugged<LinuxMachine>>(
+            options, [](Log& log, MainQueue& mainQueue) { return LinuxMachine(log, mainQueue); })};
     }
     const Result<Scenario> scenario = scenarioOf(*options.simulate);
     if (!scenario.ok()) {
         return scenario.error();
     }
-    return {std::make_unique<Plugged<SimulatedRadio>>(options, scenario.value())};
+    return {std::make_unique<Plugged<SimulatedRadio>>(
+        options, [&](Log&, MainQueue& mainQueue) { return SimulatedRadio(scenario.value(), mainQueue); })};
 }
 
 } // namespace aerolith
