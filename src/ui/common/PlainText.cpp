@@ -22,13 +22,6 @@ bool isLineBreak(QChar character)
 
 QChar visible(QChar character)
 {
-    const auto code = character.unicode();
-    if (code < 0x20) {
-        return QChar(0x2400 + code);
-    }
-    if (code == 0x7F) {
-        return QChar(0x2421);
-    }
     const bool disturbs = character.category() == QChar::Other_Control || isLineBreak(character) ||
                           isDirectionControl(character);
     return disturbs ? QChar(QChar::ReplacementCharacter) : character;

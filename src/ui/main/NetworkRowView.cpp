@@ -43,14 +43,12 @@ NetworkRowMetrics measure(const Fonts& fonts, const QString& name, const QString
             .signalWidth = std::ceil(QFontMetricsF(fonts.signal).horizontalAdvance(signal))};
 }
 
-/// The text's own direction orders its characters; the side it begins at is the row's.
-void drawText(QPainter& painter, const QRectF& rect, const QString& text, const QFont& font)
+/// Begins at the row's leading side; the text's own direction orders its characters.
+void drawText(QPainter& painter, const QRectF& rect, const QString& text, const QFont& font, bool isMirrored)
 {
     const QFontMetricsF metrics(font);
     const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
-    const double left = painter.layoutDirection() == Qt::RightToLeft
-                            ? rect.right() - metrics.horizontalAdvance(shown)
-                            : rect.left();
+    const double left = isMirrored ? rect.right() - metrics.horizontalAdvance(shown) : rect.left();
     painter.setFont(font);
     painter.drawText(QPointF(left, std::round(rect.top() + metrics.ascent())), shown);
 }
@@ -112,23 +110,25 @@ void NetworkRowView::paint(QPainter& painter, const QRectF& rect, const QPalette
     const Fonts fonts(font);
     NetworkRowLayout layout =
         layOutNetworkRow(rect, measure(fonts, name(), signal()), network.isCurrentNetwork);
-    if (painter.layoutDirection() == Qt::RightToLeft) {
+    const bool isMirrored = painter.layoutDirection() == Qt::RightToLeft;
+    if (isMirrored) {
         layout = layout.mirrored(rect);
     }
 
     painter.save();
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     // A name can stack marks higher than a line.
     painter.setClipRect(rect);
     painter.setOpacity(opacity());
     WiFiSignalBars{.rssi = network.rssi, .isSelected = isSelected}.paint(painter, layout.bars, palette);
     painter.setPen(label);
-    drawText(painter, layout.name, name(), fonts.name);
+    drawText(painter, layout.name, name(), fonts.name, isMirrored);
     if (layout.checkmark) {
         Symbols::paint(painter, *layout.checkmark, u"checkmark.circle.fill"_s, Theme::green(palette));
     }
     painter.setPen(secondary);
-    drawText(painter, layout.details, details(), fonts.details);
-    drawText(painter, layout.signal, signal(), fonts.signal);
+    drawText(painter, layout.details, details(), fonts.details, isMirrored);
+    drawText(painter, layout.signal, signal(), fonts.signal, isMirrored);
     Symbols::paint(painter, layout.symbol, symbol(), secondary);
     painter.restore();
 }

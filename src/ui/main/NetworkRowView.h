@@ -42,7 +42,8 @@ struct NetworkRowView
     /// Height of every row in this font (its family counts, not its size), whatever the row says.
     [[nodiscard]] static int height(const QFont& font);
 
-    /// Paints within `rect`, for which `palette` and `font` are those of the list.
+    /// Paints within `rect`; `palette` and `font` are those of the list, and the painter's layout direction
+    /// is its direction.
     void paint(QPainter& painter, const QRectF& rect, const QPalette& palette, const QFont& font) const;
 };
 

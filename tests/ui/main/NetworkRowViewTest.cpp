@@ -35,6 +35,7 @@ QImage painted(const NetworkRowView& view)
     QImage image(320, 168, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.setLayoutDirection(Qt::LeftToRight);
     view.paint(painter, rowRect, QApplication::palette(), QApplication::font());
     return image;
 }
@@ -73,8 +74,9 @@ TEST(NetworkRowView, DescribesItselfInWords)
     view.network.isCurrentNetwork = true;
     view.isHidden = true;
     view.network.ssid = u"%1\n\u2069\u202Eeva"_s;
-    EXPECT_EQ(view.accessibleText(),
-              u"\u2068%1␊\uFFFD\uFFFDeva\u2069, WPA2, channel 36, 3 of 4 bars, -70 dBm, joined, hidden"_s);
+    EXPECT_EQ(
+        view.accessibleText(),
+        u"\u2068%1\uFFFD\uFFFD\uFFFDeva\u2069, WPA2, channel 36, 3 of 4 bars, -70 dBm, joined, hidden"_s);
 }
 
 TEST(NetworkRowView, IsPaintedAtHalfOpacityWhenHidden)
@@ -105,6 +107,13 @@ TEST(NetworkRowView, MarksTheJoinedNetworkInGreen)
     EXPECT_FALSE(hasGreen(painted(view)));
     view.network.isCurrentNetwork = true;
     EXPECT_TRUE(hasGreen(painted(view)));
+}
+
+TEST(NetworkRowView, OrdersANameByItsOwnDirection)
+{
+    // A Hebrew letter first: what follows stands to the left of it.
+    EXPECT_EQ(painted(row(u"\u05D0 b"_s)), painted(row(u"b \u05D0"_s)));
+    EXPECT_NE(painted(row(u"\u05D0 b"_s)), painted(row(u"\u05D0 c"_s)));
 }
 
 TEST(NetworkRowView, StaysWithinItsRowWhateverTheNameIs)
