@@ -1,7 +1,7 @@
 #!/bin/bash
 # run.sh SCENARIO PROGRAM CACHE RESULTS [SECONDS]: boots a virtual machine with simulated radios, runs
-# scenarios/SCENARIO.sh in it with the built aerolith-scan PROGRAM and judges what it has left in RESULTS. CACHE keeps
-# the kernel between runs. Ends with 0 (as it should be), 1 (a fault) or 77 (this machine cannot run it; says why).
+# scenarios/SCENARIO.sh in it with the built PROGRAM and judges what it has left in RESULTS. CACHE keeps the kernel
+# between runs. Ends with 0 (as it should be), 1 (a fault) or 77 (this machine cannot run it; says why).
 set -euo pipefail
 
 bed=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -31,9 +31,9 @@ trap 'exit 1' INT TERM HUP
 
 require_tools
 prepare_kernel "$cache"
-prepare_initrd "$cache" "$bed/guest/init"
 rm -rf "$results"
 mkdir -p "$results/plan"
+prepare_initrd "$cache" "$bed/guest/init" "$results/initrd.gz"
 python3 "$bed/judge/access_points.py" "$results/plan"
 printf '%s=%q\n' BED "$bed" SCENARIO "$scenario" PROGRAM "$program" \
     MODULES "$cache/root/lib/modules/$(cat "$cache/release")" >"$results/bed.env"

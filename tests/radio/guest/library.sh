@@ -56,7 +56,7 @@ add_user() {
     echo "tester:x:$USER_ID:$USER_ID::/run/home:/bin/bash" >>/etc/passwd
     echo "tester:x:$USER_ID:" >>/etc/group
     install -d -o $USER_ID -g $USER_ID /run/home "/run/user/$USER_ID"
-    install -m 755 "$PROGRAM" /run/aerolith-scan # the build tree may be closed to other users
+    install -m 755 "$PROGRAM" /run/program # the build tree may be closed to other users
 }
 
 as_user() {
@@ -64,14 +64,14 @@ as_user() {
         setpriv --reuid=$USER_ID --regid=$USER_ID --clear-groups "$@"
 }
 
-# observe NAME SECONDS ARGUMENT...: runs aerolith-scan as the unprivileged user, in a folder of its own that ends up
+# observe NAME SECONDS ARGUMENT...: runs the program as the unprivileged user, in a folder of its own that ends up
 # as /out/NAME, beside its standard output, standard error, exit status (124: not done within SECONDS) and times.
 observe() {
     local name=$1 seconds=$2 folder=/run/observed/$1
     shift 2
     install -d -o $USER_ID -g $USER_ID "$folder"
     date +%s.%N >"$folder/begun"
-    (cd "$folder" && as_user timeout -k 5 "$seconds" /run/aerolith-scan "$@") >"$folder/stdout" 2>"$folder/stderr"
+    (cd "$folder" && as_user timeout -k 5 "$seconds" /run/program "$@") >"$folder/stdout" 2>"$folder/stderr"
     echo $? >"$folder/status"
     date +%s.%N >"$folder/ended"
     iw dev wlan0 scan dump >"$folder/iw.txt" 2>/dev/null

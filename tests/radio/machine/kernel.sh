@@ -21,10 +21,9 @@ prepare_kernel() {
     mv "$partial" "$cache"
 }
 
-# prepare_initrd CACHE INIT: packs busybox, the modules that the shared root needs and INIT into CACHE/initrd.gz.
+# prepare_initrd CACHE INIT FILE: packs busybox, the modules that the shared root needs and INIT into FILE.
 prepare_initrd() {
-    local cache=$1 init=$2 tree=$1/initrd module
-    rm -rf "$tree"
+    local cache=$1 init=$2 file=$3 tree=$3.tree module
     mkdir -p "$tree"/{bin,modules,proc,sys,dev,root}
     cp "$(command -v busybox)" "$tree/bin/busybox"
     cp "$init" "$tree/init"
@@ -35,5 +34,6 @@ prepare_initrd() {
         cp "$module" "$tree/modules/"
         basename "$module" >>"$tree/modules/order"
     done
-    (cd "$tree" && find . | cpio --quiet -o -H newc | gzip -1) >"$cache/initrd.gz"
+    (cd "$tree" && find . | cpio --quiet -o -H newc | gzip -1) >"$file"
+    rm -r "$tree"
 }
