@@ -5,7 +5,7 @@
 set -euo pipefail
 
 bed=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-scenario=$1 program=$(realpath "$2") cache=$(realpath -m "$3") results=$(realpath -m "$4") seconds=${5:-540}
+scenario=$1 program=$(realpath "$2") cache=$(realpath -m "$3") results=$(realpath -m "$4") seconds=${5:-900}
 
 skip() {
     echo "skipped: $*"

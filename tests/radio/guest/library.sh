@@ -49,7 +49,7 @@ start_system_services() {
     ip link set lo up
     dbus-daemon --system --fork
     /usr/lib/polkit-1/polkitd --no-debug >/run/polkitd.log 2>&1 &
-    wait_for 20 busctl --system status org.freedesktop.PolicyKit1
+    wait_for 90 busctl --system status org.freedesktop.PolicyKit1
 }
 
 add_user() {
@@ -90,8 +90,9 @@ start_radios() {
     ip netns add radios
     ip -n radios link set lo up
     for phy in $(seq "$RADIOS"); do iw phy "phy$phy" set netns name radios; done
+    say "$RADIOS radios"
     iw reg set "$COUNTRY"
-    wait_for 10 sh -c "iw reg get | grep -q 'country $COUNTRY'"
+    wait_for 90 sh -c "iw reg get | grep -q 'country $COUNTRY'"
 }
 
 among_radios() { ip netns exec radios "$@"; }
@@ -109,8 +110,9 @@ start_access_points() {
     done
     among_radios hostapd -B -f /run/hostapd.log /out/plan/*.conf ||
         give_up "hostapd has failed: $(tail -n 5 /run/hostapd.log)"
+    say "hostapd has started"
     for number in $(seq "$RADIOS"); do
-        wait_for 30 access_point_runs "wlan$number" || give_up "wlan$number has no access point"
+        wait_for 90 access_point_runs "wlan$number" || give_up "wlan$number has no access point"
     done
 }
 
@@ -132,7 +134,7 @@ wifi.scan-rand-mac-address=no
 CONFIGURATION
     wpa_supplicant -u -B -s -f /run/wpa_supplicant.log
     NetworkManager --debug --config /run/NetworkManager.conf >/run/NetworkManager.log 2>&1 &
-    wait_for 40 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
+    wait_for 90 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
 }
 
 scan_permission_is() { as_user nmcli -t general permissions | grep -q "wifi.scan:$1"; }
@@ -149,7 +151,7 @@ permit() {
                 return polkit.Result.${1^^};
         });" >"$rules"
     fi
-    wait_for 20 scan_permission_is "$1" || give_up "the permission to scan is not '$1'"
+    wait_for 90 scan_permission_is "$1" || give_up "the permission to scan is not '$1'"
 }
 
 # watch_scans: keeps a log of the kernel's scan events, with their times, in /out/scans.txt.

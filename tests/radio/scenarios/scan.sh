@@ -2,34 +2,34 @@
 # The list and the details against the kernel's own, and every way in which a scan may be refused.
 # Sourced in the guest; judged on the host by judge/scan.py.
 
-observe no-interface 20
+observe no-interface 120
 
 start_radios
 start_access_points
 watch_scans
-observe no-manager 60
+observe no-manager 120
 
 start_network_manager
 permit no
-observe denied 60
+observe denied 120
 permit auth
-observe unanswered 60
+observe unanswered 120
 
 permit yes
 details=()
 for bssid in $BSSIDS; do details+=(--details "$bssid" "$bssid.json"); done
 ended=$(scans_ended)
-observe survey 180 --cycles 4 --interval 5 --format json --list list.json "${details[@]}" &
+observe survey 240 --cycles 4 --interval 5 --format json --list list.json "${details[@]}" &
 # The first scan to end may be one of NetworkManager's own; with the second, the first cycle has had its scan.
-wait_for 90 scans_have_ended $((ended + 2)) && switch_off_access_point "$LEAVING_INTERFACE"
+wait_for 180 scans_have_ended $((ended + 2)) && switch_off_access_point "$LEAVING_INTERFACE"
 wait $!
 
 nmcli connection add type wifi con-name joined ifname wlan0 ssid "$JOINED_SSID" \
     ipv4.method disabled ipv6.method disabled >/dev/null
-nmcli --wait 40 connection up joined
-observe joined 60 --cycles 1 --format json --list list.json
+nmcli --wait 90 connection up joined
+observe joined 120 --cycles 1 --format json --list list.json
 nmcli connection delete joined >/dev/null
 
 nmcli radio wifi off
-wait_for 20 sh -c 'rfkill list | grep -q "Soft blocked: yes"'
-observe radio-off 60
+wait_for 90 sh -c 'rfkill list | grep -q "Soft blocked: yes"'
+observe radio-off 120
