@@ -1,7 +1,7 @@
-// From a published list to its picture on the screen, with 10,000 rows of which a window's height is visible.
-// Run it with QT_QPA_PLATFORM=offscreen: rows are painted into memory, as they are on a screen without a
-// graphics card. The counter "frame" is the share of one frame at 60 Hz.
+// From a published list to its picture on the screen, with a window's height of rows visible. Run it with
+// QT_QPA_PLATFORM=offscreen: rows are painted into memory, as they are on a screen without a graphics card.
 
+#include "CpuTime.h"
 #include "ui/main/NetworkListView.h"
 
 #include <QApplication>
@@ -9,20 +9,21 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <random>
 
 namespace aerolith {
 
 namespace {
 
-constexpr int rowCount = 10'000;
-constexpr double framesPerSecond = 60;
+/// At 60 Hz.
+constexpr double frameMilliseconds = 1000.0 / 60;
 
-WiFiNetworkList accessPoints()
+WiFiNetworkList accessPoints(int count)
 {
     WiFiNetworkList networks;
-    networks.reserve(rowCount);
-    for (int i = 0; i < rowCount; ++i) {
+    networks.reserve(count);
+    for (int i = 0; i < count; ++i) {
         WiFiNetwork network;
         network.bssid = QStringLiteral("0a:10:00:00:%1:%2")
                             .arg(i >> 8 & 255, 2, 16, QChar(u'0'))
@@ -51,10 +52,10 @@ WiFiNetworkList drifted(WiFiNetworkList networks, std::mt19937& random)
 /// What two scans publish in turn.
 struct Scans
 {
-    Scans()
+    explicit Scans(const benchmark::State& state)
     {
         std::mt19937 random(42);
-        lists[0].networks = drifted(accessPoints(), random);
+        lists[0].networks = drifted(accessPoints(static_cast<int>(state.range(0))), random);
         lists[1].networks = drifted(lists[0].networks, random);
     }
 
@@ -74,76 +75,65 @@ void showAndPaint(NetworkListView& view, const ShownNetworks& shown)
     view.viewport()->repaint();
 }
 
-void reportFrames(benchmark::State& state)
+void publishInTurn(benchmark::State& state, const char* name, const Scans& scans)
 {
-    state.counters["frame"] = benchmark::Counter(static_cast<double>(state.iterations()) / framesPerSecond,
-                                                 benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    NetworkListView view;
+    prepare(view);
+    showAndPaint(view, scans.lists[0]);
+    int turn = 0;
+    CpuTimer timer(state, name, state.range(0));
+    for ([[maybe_unused]] auto iteration : state) {
+        timer.time([&] { showAndPaint(view, scans.lists[++turn % 2]); });
+    }
 }
 
 /// A scan that changes every signal and with them the order.
 void publishReordered(benchmark::State& state)
 {
-    const Scans scans;
-    NetworkListView view;
-    prepare(view);
-    showAndPaint(view, scans.lists[0]);
-    int turn = 0;
-    for ([[maybe_unused]] auto iteration : state) {
-        showAndPaint(view, scans.lists[++turn % 2]);
-    }
-    reportFrames(state);
+    publishInTurn(state, "reordered", Scans(state));
 }
 
 /// A scan that changes one signal in ten and nothing else.
 void publishInPlace(benchmark::State& state)
 {
-    Scans scans;
+    Scans scans(state);
     scans.lists[1] = scans.lists[0];
-    for (int row = 0; row < rowCount; row += 10) {
+    for (qsizetype row = 0; row < scans.lists[1].networks.size(); row += 10) {
         scans.lists[1].networks[row].rssi -= 1;
     }
-    NetworkListView view;
-    prepare(view);
-    showAndPaint(view, scans.lists[0]);
-    int turn = 0;
-    for ([[maybe_unused]] auto iteration : state) {
-        showAndPaint(view, scans.lists[++turn % 2]);
-    }
-    reportFrames(state);
+    publishInTurn(state, "in place", scans);
 }
 
 /// For comparison: the same rows into an empty list.
 void publishCold(benchmark::State& state)
 {
-    const Scans scans;
+    const Scans scans(state);
     NetworkListView view;
     prepare(view);
+    CpuTimer timer(state, "cold", state.range(0));
     for ([[maybe_unused]] auto iteration : state) {
-        state.PauseTiming();
         showAndPaint(view, {});
-        state.ResumeTiming();
-        showAndPaint(view, scans.lists[0]);
+        timer.time([&] { showAndPaint(view, scans.lists[0]); });
     }
-    reportFrames(state);
 }
 
-/// The painting alone.
+/// The painting alone: the same for any number of rows.
 void paintVisibleRows(benchmark::State& state)
 {
-    const Scans scans;
+    const Scans scans(state);
     NetworkListView view;
     prepare(view);
     showAndPaint(view, scans.lists[0]);
+    CpuTimer timer(state, "paint", state.range(0));
     for ([[maybe_unused]] auto iteration : state) {
-        view.viewport()->repaint();
+        timer.time([&] { view.viewport()->repaint(); });
     }
-    reportFrames(state);
 }
 
-BENCHMARK(publishReordered)->Unit(benchmark::kMillisecond);
-BENCHMARK(publishInPlace)->Unit(benchmark::kMillisecond);
-BENCHMARK(publishCold)->Unit(benchmark::kMillisecond);
-BENCHMARK(paintVisibleRows)->Unit(benchmark::kMillisecond);
+BENCHMARK(publishReordered)->Arg(1'000)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(publishInPlace)->Arg(1'000)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(publishCold)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(paintVisibleRows)->Arg(1'000)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 
@@ -154,5 +144,10 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
+    for (const char* name : {"reordered", "in place", "cold", "paint"}) {
+        const double milliseconds = aerolith::meanSeconds()[{name, 10'000}] * 1000;
+        std::printf("10,000 rows, %s: %.1f ms, %.0f %% of a frame\n", name, milliseconds,
+                    milliseconds / aerolith::frameMilliseconds * 100);
+    }
     return 0;
 }

@@ -69,6 +69,9 @@ void NetworkListModel::announce(const QList<int>& changedRows)
 
 QModelIndex NetworkListModel::indexOf(const QString& bssid) const
 {
+    if (bssid.isNull()) {
+        return {};
+    }
     const auto found = std::find_if(networks().cbegin(), networks().cend(),
                                     [&](const WiFiNetwork& network) { return network.bssid == bssid; });
     return found != networks().cend() ? index(static_cast<int>(found - networks().cbegin())) : QModelIndex();
