@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -59,10 +60,13 @@ QString quoted(const QString& text)
     return result + (text.size() > longestQuotation ? u"…\""_s : u"\""_s);
 }
 
-JsonPlace::JsonPlace(const QJsonValue& document, Failure& failure) : m_value(document), m_failure(&failure) {}
+JsonPlace::JsonPlace(QJsonValue document, Failure& failure)
+    : m_value(std::move(document)), m_failure(&failure)
+{
+}
 
-JsonPlace::JsonPlace(const JsonPlace& parent, const QJsonValue& value, const QString& step)
-    : m_parent(&parent), m_value(value), m_step(step), m_failure(parent.m_failure)
+JsonPlace::JsonPlace(const JsonPlace& parent, QJsonValue value, QString step)
+    : m_parent(&parent), m_value(std::move(value)), m_step(std::move(step)), m_failure(parent.m_failure)
 {
 }
 

@@ -22,7 +22,7 @@ class JsonPlace
 {
 public:
     /// The whole document; complaints about any part of it go to `failure`.
-    JsonPlace(const QJsonValue& document, Failure& failure);
+    JsonPlace(QJsonValue document, Failure& failure);
 
     /// A member of the object, or an element of the list, that stands here.
     [[nodiscard]] JsonPlace member(const QString& key) const;
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] bool failed() const { return m_failure->has_value(); }
 
 private:
-    JsonPlace(const JsonPlace& parent, const QJsonValue& value, const QString& step);
+    JsonPlace(const JsonPlace& parent, QJsonValue value, QString step);
 
     [[nodiscard]] QString path() const;
 

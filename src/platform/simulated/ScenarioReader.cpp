@@ -20,7 +20,8 @@ namespace {
 
 constexpr qint64 mostCodeInSet = 63;
 constexpr double mostScanSeconds = 24.0 * 60 * 60;
-constexpr qsizetype mostBytes = 64 * 1024 * 1024;
+constexpr qsizetype mebibyte = 1 << 20;
+constexpr qsizetype mostBytes = 64 * mebibyte;
 
 } // namespace
 
@@ -180,7 +181,7 @@ static Error errorAt(const QByteArray& text, qsizetype offset, const QString& co
 
 static Error tooLong()
 {
-    return Error{u"expected at most %1 MiB, found more"_s.arg(mostBytes / (1024 * 1024))};
+    return Error{u"expected at most %1 MiB, found more"_s.arg(mostBytes / mebibyte)};
 }
 
 Result<Scenario> parseScenario(const QByteArray& json)
@@ -234,7 +235,7 @@ static Result<QByteArray> contents(const QString& path)
 Result<Scenario> readScenario(const QString& path)
 {
     const Result<QByteArray> json = contents(path);
-    const Result<Scenario> scenario = json.ok() ? parseScenario(json.value()) : json.error();
+    Result<Scenario> scenario = json.ok() ? parseScenario(json.value()) : json.error();
     if (!scenario.ok()) {
         return Error{path + u": "_s + scenario.error().description};
     }

@@ -121,7 +121,7 @@ Failure SimulatedInterface::associateToNetwork(const CWNetwork& network,
                                                const std::optional<QString>& password)
 {
     const std::scoped_lock lock(m_mutex);
-    if (const Failure failure = refusal()) {
+    if (Failure failure = refusal()) {
         return failure;
     }
     const auto needed = m_scenario.passwords.constFind(QString::fromUtf8(network.ssidData));
