@@ -154,8 +154,18 @@ permit() {
     wait_for 90 scan_permission_is "$1" || give_up "the permission to scan is not '$1'"
 }
 
-# watch_scans: keeps a log of the kernel's scan events, with their times, in /out/scans.txt.
-watch_scans() { iw event -t >/out/scans.txt 2>/dev/null & }
+# watch_scans: keeps the kernel's scan events, with their times, in /out/scans.txt, and what iw lists at the end of the
+# n-th scan in /out/scans/n.txt; /out/clock has the time of day beside the time since boot that iw tells.
+watch_scans() {
+    local uptime
+    mkdir /out/scans
+    read -r uptime _ </proc/uptime # no other process between the two readings: it could take a second to start
+    echo "$EPOCHREALTIME $uptime" >/out/clock
+    iw event -t | while read -r event; do
+        echo "$event" >>/out/scans.txt
+        case $event in *'scan finished'*) iw dev wlan0 scan dump >"/out/scans/$(scans_ended).txt" ;; esac
+    done &
+}
 
 scans_ended() { grep -c 'scan finished' /out/scans.txt; }
 scans_have_ended() { [ "$(scans_ended)" -ge "$1" ]; }

@@ -57,8 +57,8 @@ def missing_record(entry: Entry, heard: float, since: float) -> Difference:
     return Difference(entry.bssid, entry.ssid_text, "(record)", ABSENT, f"heard {heard - since:+.1f} s", reason)
 
 
-def compare(records: list[dict], entries: dict[str, Entry], dumped: float, since: float) -> list[Difference]:
-    """`dumped` is when iw made its list, `since` when the first scan behind the records began (both Unix times)."""
+def compare(records: list[dict], entries: dict[str, Entry], booted: float, since: float) -> list[Difference]:
+    """`booted` is when the machine was, `since` when the first scan behind the records began (both Unix times)."""
     by_address = {record["bssid"]: record for record in records}
     differences = [Difference(bssid, record["ssid"], "(record)", "listed", ABSENT)
                    for bssid, record in by_address.items() if bssid not in entries]
@@ -68,7 +68,7 @@ def compare(records: list[dict], entries: dict[str, Entry], dumped: float, since
         if bssid in by_address:
             differences += compare_record(by_address[bssid], entry)
         else:
-            differences.append(missing_record(entry, dumped - entry.age, since))
+            differences.append(missing_record(entry, booted + entry.heard, since))
     return differences
 
 

@@ -17,7 +17,7 @@ class Entry:
     beacon_interval: int = 0
     capabilities: set[str] = field(default_factory=set)
     signal: float = 0.0  # dBm
-    age: float = 0.0  # seconds since it was last heard, at the time of the dump
+    heard: float = 0.0  # when it was last heard, in seconds since boot
     ssid: bytes = b""
     country: str | None = None
     rates: set[float] = field(default_factory=set)  # Mbit/s
@@ -119,8 +119,8 @@ def read_line(entry: Entry, line: str) -> None:
         entry.capabilities = set(value.split())
     elif title == "signal":
         entry.signal = float(value.split()[0])
-    elif title == "last seen" and value.endswith("ms ago"):
-        entry.age = int(value.split()[0]) / 1000
+    elif title == "last seen" and value.endswith("[boottime]"):
+        entry.heard = float(value.split("s ")[0])
     elif title == "SSID":
         entry.ssid = unescape(rest.removeprefix(" "))
     elif title == "Country":
@@ -147,6 +147,6 @@ def parse(text: str) -> list[Entry]:
 def newest_of_each(entries: list[Entry]) -> dict[str, Entry]:
     """By address. An access point has two entries where it has been heard with and without its name."""
     newest: dict[str, Entry] = {}
-    for entry in sorted(entries, key=lambda e: e.age, reverse=True):
+    for entry in sorted(entries, key=lambda e: e.heard):
         newest[entry.bssid] = entry
     return newest
