@@ -103,6 +103,7 @@ def judge_list(step: Step, scans: Scans, faults: Faults) -> list[dict]:
 def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults) -> None:
     """Each access point's details: the list's record, with a history that fits it and the kernel's scans."""
     leaving, _ = access_points.radio_of_role("leaving")
+    checked = samples = 0
     for record in records:
         bssid = record["bssid"]
         if not faults.expect((step.folder / f"{bssid}.json").exists(), f"{bssid}: no details"):
@@ -122,22 +123,28 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
             gone = signals.index(MISSED) if MISSED in signals else len(signals)
             faults.expect(0 < gone < len(signals) and set(signals[gone:]) == {MISSED},
                           f"{bssid} was switched off between two cycles, its history is {signals}")
-        judge_samples(bssid, history, scans, faults)
+        checked += judge_samples(bssid, history, scans, faults)
+        samples += len(history)
+    print(f"{checked} of {samples} samples checked against the kernel's scans")
+    faults.expect(checked > samples / 2, "too few samples could be checked")
 
 
-def judge_samples(bssid: str, history: list[dict], scans: Scans, faults: Faults) -> None:
+def judge_samples(bssid: str, history: list[dict], scans: Scans, faults: Faults) -> int:
     """A sample is a sighting if, and only if, iw too says that the cycle's scan has heard the access point. An
-    emulated machine that is short of time does miss some."""
+    emulated machine that is short of time does miss some. Returns how many samples iw could tell of."""
+    checked = 0
     for sample in history:
         scan = scans.last_ended_before(unix_time(sample))
         heard = scan.heard(bssid)
         if heard is None or heard > scan.finished:
             continue  # the kernel has dropped it, or heard it again before iw could ask
+        checked += 1
         missed = sample["rssi"] == MISSED
         faults.expect(missed == (heard < scan.started - TOLERANCE),
                       f"{bssid}: {sample}, but iw says heard {heard - scan.started:+.2f} s from the scan's start")
         if missed:
             print(f"note: {bssid} was not heard at {sample['timestamp']}, says iw too")
+    return checked
 
 
 def judge_survey(results: Path, scans: Scans, faults: Faults) -> None:
