@@ -19,7 +19,7 @@ struct nl_sock;
 
 namespace {
 
-constexpr std::size_t kernelPiece = 32 * 1024;
+constexpr std::size_t kernelPiece = std::size_t{32} * 1024;
 
 struct Replay
 {
@@ -52,7 +52,7 @@ std::size_t pieceSize(const std::string& dump, std::size_t begin, std::size_t ro
 /// The file's dump as the answer to this request, with the message that ends it.
 std::string answerTo(const nlmsghdr& request)
 {
-    const char* path = std::getenv("NETLINK_REPLAY");
+    const char* path = std::getenv("NETLINK_REPLAY"); // NOLINT(concurrency-mt-unsafe): iw has one thread
     std::ifstream file(path ? path : "", std::ios::binary);
     std::string dump{std::istreambuf_iterator<char>(file), {}};
     const nlmsghdr done{NLMSG_LENGTH(sizeof(int)), NLMSG_DONE, NLM_F_MULTI, 0, 0};

@@ -63,7 +63,7 @@ QByteArray largeDump()
     QFile file(QStringLiteral(CAPTURE));
     if (!file.open(QIODevice::ReadOnly)) {
         std::perror(CAPTURE);
-        std::exit(1);
+        std::abort();
     }
     const QByteArray capture = file.readAll();
     QByteArray dump;
@@ -109,7 +109,7 @@ double runIw(const std::string& dumpFile, const std::string& output)
     rusage usage{};
     if (failed != 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
         std::fprintf(stderr, "iw cannot be run\n");
-        std::exit(1);
+        std::abort();
     }
     return seconds(usage.ru_utime);
 }

@@ -72,8 +72,9 @@ Result<QList<BssEntry>> decodeBssEntries(Bytes dump)
 const BssEntry* joinedEntry(const QList<BssEntry>& entries)
 {
     const auto joined = std::find_if(entries.begin(), entries.end(), [](const BssEntry& entry) {
-        return entry.status == NL80211_BSS_STATUS_ASSOCIATED ||
-               entry.status == NL80211_BSS_STATUS_IBSS_JOINED;
+        const bool associated = entry.status == NL80211_BSS_STATUS_ASSOCIATED;
+        const bool inAdHocNetwork = entry.status == NL80211_BSS_STATUS_IBSS_JOINED;
+        return associated || inAdHocNetwork;
     });
     return joined == entries.end() ? nullptr : &*joined;
 }

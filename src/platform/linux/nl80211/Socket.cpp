@@ -19,7 +19,7 @@ namespace {
 constexpr std::chrono::seconds longestAnswer{5};
 // A dump is handed over in pieces as large as the buffer that receives them. The socket's queue holds the
 // events of a burst; the kernel keeps both within its limits.
-constexpr std::size_t messageBufferSize = 64 * 1024;
+constexpr std::size_t messageBufferSize = std::size_t{64} * 1024;
 constexpr int socketBufferSize = 1024 * 1024;
 
 Error libraryError(QLatin1StringView what, int code)

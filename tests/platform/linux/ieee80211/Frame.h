@@ -4,7 +4,8 @@
 
 #include <QByteArray>
 
-#include <memory>
+#include <cstdint>
+#include <vector>
 
 namespace aerolith::test {
 
@@ -27,17 +28,12 @@ inline QByteArray extensionElement(int extension, const QByteArray& body)
 class TightBytes
 {
 public:
-    explicit TightBytes(const QByteArray& bytes)
-        : m_size(static_cast<std::size_t>(bytes.size())), m_bytes(std::make_unique<std::uint8_t[]>(m_size))
-    {
-        std::copy(bytes.begin(), bytes.end(), m_bytes.get());
-    }
+    explicit TightBytes(const QByteArray& bytes) : m_bytes(bytes.begin(), bytes.end()) {}
 
-    [[nodiscard]] Bytes bytes() const { return {m_bytes.get(), m_size}; }
+    [[nodiscard]] Bytes bytes() const { return m_bytes; }
 
 private:
-    std::size_t m_size;
-    std::unique_ptr<std::uint8_t[]> m_bytes;
+    std::vector<std::uint8_t> m_bytes;
 };
 
 } // namespace aerolith::test
