@@ -3,6 +3,7 @@
 #include "cli/QuietLocationManager.h"
 #include "model/SelectionStore.h"
 #include "model/WiFiScanner.h"
+#include "platform/Lifeline.h"
 #include "platform/Surroundings.h"
 
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/Lifeline.h"
 #include "model/WiFiNetwork.h"
+#include "platform/Lifeline.h"
 #include "platform/Queues.h"
 
 #include <QObject>

@@ -2,11 +2,11 @@
 
 #include "model/Collation.h"
 #include "model/IdentifierSource.h"
-#include "model/Lifeline.h"
 #include "model/ScanMerge.h"
 #include "model/SelectionStore.h"
 #include "model/SortOption.h"
 #include "model/WiFiNetwork.h"
+#include "platform/Lifeline.h"
 #include "platform/Surroundings.h"
 
 #include <QObject>

@@ -40,11 +40,7 @@ void SimulatedLocationManager::setAuthorization(CLAuthorizationStatus status)
 
 void SimulatedLocationManager::async(Task task)
 {
-    m_mainQueue.async([alive = std::weak_ptr(m_alive), task = std::move(task)] {
-        if (!alive.expired()) {
-            task();
-        }
-    });
+    m_mainQueue.async(m_lifeline.guarded(std::move(task)));
 }
 
 void SimulatedLocationManager::notifyLater()

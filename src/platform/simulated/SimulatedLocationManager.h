@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/CLLocationManager.h"
+#include "platform/Lifeline.h"
 #include "platform/Queues.h"
 #include "platform/simulated/SimulatedInterface.h"
 
-#include <memory>
 
 namespace aerolith {
 
@@ -35,8 +35,7 @@ private:
     CLLocationManagerDelegate* m_delegate = nullptr;
     /// Which attachment of a delegate this is: what was posted for an earlier one is void.
     int m_attachment = 0;
-    /// Held by this object alone.
-    const std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    Lifeline m_lifeline;
 };
 
 } // namespace aerolith
