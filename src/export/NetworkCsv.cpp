@@ -41,8 +41,8 @@ void addHistory(CsvText& csv, const SignalHistoryList& history, const DateTexts&
     csv.addRow({u"Signal History", u""});
     csv.addRow({u"Timestamp", u"RSSI (dBm)", u"Noise (dBm)"});
     for (const SignalHistory& sample : history) {
-        csv.addRow({texts.mediumTime(sample.timestamp), QString::number(sample.rssi),
-                    QString::number(sample.noise)});
+        csv.addRow({texts.mediumTime(sample.timestamp), DecimalField(sample.rssi).text(),
+                    DecimalField(sample.noise).text()});
     }
 }
 
@@ -56,8 +56,8 @@ QString networkListCSV(const WiFiNetworkList& networks)
     csv.reserve((networks.size() + 1) * usualRow);
     csv.addRow({u"SSID", u"BSSID", u"RSSI (dBm)", u"Channel", u"Band", u"Security", u"Country"});
     for (const WiFiNetwork& network : networks) {
-        csv.addRow({network.ssid, network.bssid, QString::number(network.rssi),
-                    QString::number(network.channel), network.channelBand, network.security,
+        csv.addRow({network.ssid, network.bssid, DecimalField(network.rssi).text(),
+                    DecimalField(network.channel).text(), network.channelBand, network.security,
                     network.countryCode ? QStringView(*network.countryCode) : u"Unknown"});
     }
     return csv.text();
