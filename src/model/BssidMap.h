@@ -1,9 +1,10 @@
 #pragma once
 
+#include "model/BssidOrder.h"
+
 #include <QList>
 #include <QString>
 
-#include <algorithm>
 #include <utility>
 
 namespace aerolith {
@@ -31,12 +32,30 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_entries.isEmpty(); }
 
+    /// Only for an index from 0 to size() - 1.
+    [[nodiscard]] const Entry& at(qsizetype index) const { return m_entries.at(index); }
+
+    /// The key of at(index).
+    [[nodiscard]] BssidKey keyAt(qsizetype index) const
+    {
+        return {m_numbers.at(index), m_entries.at(index).bssid};
+    }
+
     /// end() when there is none.
     [[nodiscard]] const_iterator find(const QString& bssid) const
     {
-        const auto found = std::lower_bound(
-            begin(), end(), bssid, [](const Entry& entry, const QString& key) { return entry.bssid < key; });
-        return found != end() && found->bssid == bssid ? found : end();
+        const BssidKey key(bssid);
+        qsizetype begin = 0;
+        qsizetype end = size();
+        while (begin < end) {
+            const qsizetype middle = begin + (end - begin) / 2;
+            if (keyAt(middle) < key) {
+                begin = middle + 1;
+            } else {
+                end = middle;
+            }
+        }
+        return begin < size() && keyAt(begin) == key ? m_entries.cbegin() + begin : this->end();
     }
 
     [[nodiscard]] bool contains(const QString& bssid) const { return find(bssid) != end(); }
@@ -51,13 +70,23 @@ public:
         return keys;
     }
 
-    void reserve(qsizetype count) { m_entries.reserve(count); }
+    void reserve(qsizetype count)
+    {
+        m_entries.reserve(count);
+        m_numbers.reserve(count);
+    }
 
-    /// The BSSID must be greater than every one that the map holds.
-    void append(const QString& bssid, Value value) { m_entries.append(Entry{bssid, std::move(value)}); }
+    /// The key must be greater than every one that the map holds; `bssid` is its text.
+    void append(quint64 number, const QString& bssid, Value value)
+    {
+        m_numbers.append(number);
+        m_entries.append(Entry{bssid, std::move(value)});
+    }
 
 private:
     QList<Entry> m_entries;
+    /// The number of each entry's BSSID: a search touches these alone.
+    QList<quint64> m_numbers;
 };
 
 } // namespace aerolith

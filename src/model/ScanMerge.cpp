@@ -10,11 +10,9 @@ namespace aerolith {
 
 namespace {
 
-/// One accepted result, its key beside it: sorting ten thousand of them would otherwise chase twice the
-/// pointers.
 struct Sighting
 {
-    QStringView bssid;
+    BssidKey key;
     const CWNetwork* result;
 };
 
@@ -25,11 +23,11 @@ std::vector<Sighting> acceptedByBssid(const QList<CWNetwork>& results)
     accepted.reserve(static_cast<std::size_t>(results.size()));
     for (const CWNetwork& result : results) {
         if (isAccepted(result)) {
-            accepted.push_back({.bssid = *result.bssid, .result = &result});
+            accepted.push_back({.key = BssidKey(*result.bssid), .result = &result});
         }
     }
     std::stable_sort(accepted.begin(), accepted.end(),
-                     [](const Sighting& a, const Sighting& b) { return a.bssid < b.bssid; });
+                     [](const Sighting& a, const Sighting& b) { return a.key < b.key; });
     return accepted;
 }
 
@@ -38,20 +36,20 @@ template <typename Value>
 class AscendingLookup
 {
 public:
-    explicit AscendingLookup(const BssidMap<Value>& map) : m_at(map.begin()), m_end(map.end()) {}
+    explicit AscendingLookup(const BssidMap<Value>& map) : m_map(map) {}
 
     /// A default value when the map does not hold the key.
-    Value value(const QString& bssid)
+    Value value(const BssidKey& key)
     {
-        while (m_at != m_end && m_at->bssid < bssid) {
+        while (m_at < m_map.size() && m_map.keyAt(m_at) < key) {
             ++m_at;
         }
-        return m_at != m_end && m_at->bssid == bssid ? m_at->value : Value();
+        return m_at < m_map.size() && m_map.keyAt(m_at) == key ? m_map.at(m_at).value : Value();
     }
 
 private:
-    typename BssidMap<Value>::const_iterator m_at;
-    typename BssidMap<Value>::const_iterator m_end;
+    const BssidMap<Value>& m_map;
+    qsizetype m_at = 0;
 };
 
 class Merge
@@ -72,22 +70,23 @@ public:
     {
         const std::vector<Sighting> heard = acceptedByBssid(m_cycle.results);
         reserve(std::max<qsizetype>(m_known.allNetworks.size(), std::ssize(heard)));
-        auto missed = m_known.allNetworks.begin();
+        const BssidMap<WiFiNetwork>& known = m_known.allNetworks;
+        qsizetype missed = 0;
         for (auto at = heard.cbegin(); at != heard.cend();) {
-            const QStringView bssid = at->bssid;
-            for (; missed != m_known.allNetworks.end() && missed->bssid < bssid; ++missed) {
-                addMissed(missed->value);
+            const BssidKey key = at->key;
+            for (; missed < known.size() && known.keyAt(missed) < key; ++missed) {
+                addMissed(missed);
             }
-            if (missed != m_known.allNetworks.end() && missed->bssid == bssid) {
+            if (missed < known.size() && known.keyAt(missed) == key) {
                 ++missed;
             }
             const auto next =
-                std::find_if(at, heard.cend(), [&](const Sighting& other) { return other.bssid != bssid; });
+                std::find_if(at, heard.cend(), [&](const Sighting& other) { return !(other.key == key); });
             addHeard(at, next);
             at = next;
         }
-        for (; missed != m_known.allNetworks.end(); ++missed) {
-            addMissed(missed->value);
+        for (; missed < known.size(); ++missed) {
+            addMissed(missed);
         }
         return std::move(m_merged);
     }
@@ -110,26 +109,30 @@ private:
     /// Every sighting of one access point in this cycle leaves a sample; the last makes the record.
     void addHeard(SightingIterator first, SightingIterator end)
     {
-        const QString& bssid = *first->result->bssid;
-        SignalHistoryList history = m_histories.value(bssid);
+        SignalHistoryList history = m_histories.value(first->key);
         for (auto at = first; at != end; ++at) {
             history = history.appended(sample(at->result->rssiValue, recordNoise), m_historyLimit());
         }
-        m_merged.allNetworks.append(bssid, makeNetwork(*(end - 1)->result, m_cycle.scanTime,
-                                                       m_cycle.currentBSSID, history, m_identifiers));
-        m_merged.networkHistory.append(bssid, history);
-        m_merged.lastSeenTimestamp.append(bssid, m_cycle.scanTime);
+        const CWNetwork& result = *(end - 1)->result;
+        add(first->key, makeNetwork(result, m_cycle.scanTime, m_cycle.currentBSSID, history, m_identifiers),
+            m_cycle.scanTime);
     }
 
-    void addMissed(WiFiNetwork record)
+    void addMissed(qsizetype index)
     {
-        record.signalHistory =
-            m_histories.value(record.bssid)
-                .appended(sample(SignalHistory::missedRssi, record.noise), m_historyLimit());
+        const BssidKey key = m_known.allNetworks.keyAt(index);
+        WiFiNetwork record = m_known.allNetworks.at(index).value;
+        record.signalHistory = m_histories.value(key).appended(
+            sample(SignalHistory::missedRssi, record.noise), m_historyLimit());
+        add(key, std::move(record), m_lastSeen.value(key));
+    }
+
+    void add(const BssidKey& key, WiFiNetwork record, TimePoint lastSeen)
+    {
         const QString bssid = record.bssid;
-        m_merged.networkHistory.append(bssid, record.signalHistory);
-        m_merged.lastSeenTimestamp.append(bssid, m_lastSeen.value(bssid));
-        m_merged.allNetworks.append(bssid, std::move(record));
+        m_merged.networkHistory.append(key.number, bssid, record.signalHistory);
+        m_merged.lastSeenTimestamp.append(key.number, bssid, lastSeen);
+        m_merged.allNetworks.append(key.number, bssid, std::move(record));
     }
 
     const AccessPoints& m_known;

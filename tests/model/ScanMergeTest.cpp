@@ -174,3 +174,26 @@ TEST(ScanMerge, KeepsTheMapsInStepWhateverComes)
         }
     }
 }
+
+TEST(BssidMap, FindsAddressesAndOtherTexts)
+{
+    const QStringList ascending{u"00:00:00:00:00:01"_s,
+                                u"0a:00:00:00:00:ff"_s,
+                                u"0a:00:00:00:01:00"_s,
+                                u"ff:ff:ff:ff:ff:ff"_s,
+                                u""_s,
+                                u"0A:00:00:00:00:FF"_s,
+                                u"0a-00-00-00-00-ff"_s,
+                                u"wlan"_s};
+    BssidMap<int> map;
+    for (const QString& bssid : ascending) {
+        map.append(bssidNumber(bssid), bssid, static_cast<int>(map.size()));
+    }
+    for (qsizetype i = 0; i < ascending.size(); ++i) {
+        ASSERT_TRUE(map.contains(ascending[i])) << ascending[i].toStdString();
+        EXPECT_EQ(map.find(ascending[i])->value, i);
+        EXPECT_EQ(BssidKey(ascending[i]) < BssidKey(ascending.last()), i < ascending.size() - 1);
+    }
+    EXPECT_FALSE(map.contains(u"0a:00:00:00:01:01"_s));
+    EXPECT_FALSE(map.contains(u"x"_s));
+}
