@@ -8,6 +8,7 @@ function(aerolith_test NAME)
     target_include_directories(${NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     gtest_discover_tests(${NAME}
         DISCOVERY_MODE PRE_TEST
+        NO_PRETTY_VALUES
         PROPERTIES TIMEOUT 120 LABELS "unit;${ARG_LABELS}"
                    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()
