@@ -84,4 +84,21 @@ QFont font(const QFont& base, int pixelSize, QFont::Weight weight)
     return sized;
 }
 
+QFont font(const QFont& base, TextStyle style)
+{
+    switch (style) {
+    case TextStyle::headline:
+        return font(base, 13, QFont::DemiBold);
+    case TextStyle::body:
+        break;
+    case TextStyle::subheadline:
+        return font(base, 12);
+    case TextStyle::caption:
+        return font(base, 11);
+    case TextStyle::caption2:
+        return font(base, 10);
+    }
+    return font(base, 13);
+}
+
 } // namespace aerolith::Theme

@@ -6,6 +6,20 @@
 
 /// Colours and fonts of the views, all derived from the user's own palette and font. The palette is the one
 /// of the widget that is drawn, so that light, dark and a change between them are followed.
+namespace aerolith {
+
+/// What a text is in its view. Body is what the others are measured by.
+enum class TextStyle
+{
+    headline,
+    body,
+    subheadline,
+    caption,
+    caption2
+};
+
+} // namespace aerolith
+
 namespace aerolith::Theme {
 
 /// Contrast that small text needs to be read, as the ratio defined by WCAG.
@@ -39,5 +53,8 @@ inline constexpr double secondaryOpacity = 0.65;
 
 /// The user's family at a size in device-independent pixels.
 [[nodiscard]] QFont font(const QFont& base, int pixelSize, QFont::Weight weight = QFont::Normal);
+
+/// The user's family in a text style.
+[[nodiscard]] QFont font(const QFont& base, TextStyle style);
 
 } // namespace aerolith::Theme
