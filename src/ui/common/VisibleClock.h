@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/Queues.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+
+class QWidget;
+class QWindow;
+
+namespace aerolith {
+
+/// The clock of a widget's endless animation. It starts from 0 when the widget is shown, and stands still,
+/// with no timer running, while nobody can see the widget: minimised, hidden, or covered as far as the window
+/// system tells. Where the desktop asks for no animations it stays at 0. GUI thread.
+class VisibleClock : public QObject
+{
+public:
+    /// `frame` runs whenever the time has moved. The widget outlives this object, or owns it.
+    VisibleClock(QWidget& widget, std::function<void()> frame);
+
+    /// How long the widget has been seen since it was shown.
+    [[nodiscard]] Seconds time() const;
+
+    [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void widgetShown(bool anew);
+    void update();
+    [[nodiscard]] bool canBeSeen() const;
+
+    QWidget& m_widget;
+    /// The window that tells whether it is exposed.
+    QPointer<QWindow> m_window;
+    bool m_isShown;
+    QTimer m_timer;
+    QElapsedTimer m_running;
+    /// Of the earlier runs since the widget was shown.
+    Seconds m_elapsed{0};
+};
+
+} // namespace aerolith
