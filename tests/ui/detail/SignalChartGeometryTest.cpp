@@ -1,0 +1,123 @@
+#include "ui/detail/SignalChartGeometry.h"
+
+#include "ui/detail/SampleHistory.h"
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+namespace {
+
+constexpr QSizeF full(600, 250);
+
+SignalChartGeometry geometry(const SignalHistoryList& history)
+{
+    return {history, full};
+}
+
+/// Where a path's segments begin and end.
+QList<QPointF> corners(const QPainterPath& path)
+{
+    QList<QPointF> corners;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        if (path.elementAt(i).isCurveTo()) {
+            i += 2;
+        }
+        corners.append(path.elementAt(i));
+    }
+    return corners;
+}
+
+} // namespace
+
+TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
+{
+    struct
+    {
+        SignalHistoryList history;
+        SignalRange range;
+        QList<qint64> grid;
+    } const cases[] = {
+        {{}, {-100, 0}, {0, -16, -32, -48, -64, -80, -96}},
+        {history({-50}), {-55, -45}, {-45, -46, -47, -48, -49, -50, -51, -52, -53, -54, -55}},
+        {history({-55, -82, -60}), {-87, -50}, {-50, -56, -62, -68, -74, -80, -86}},
+        {history({-47, -52, -73}), {-78, -42}, {-42, -48, -54, -60, -66, -72, -78}},
+        // A cycle that did not hear the access point.
+        {history({-50, -100, -50}), {-105, -45}, {-45, -55, -65, -75, -85, -95, -105}},
+        {history({-60, -58}, -200), {-65, -53}, {-53, -55, -57, -59, -61, -63, -65}},
+    };
+
+    for (const auto& [samples, range, grid] : cases) {
+        SCOPED_TRACE(testing::PrintToString(range.min));
+        EXPECT_EQ(signalRange(samples), range);
+        EXPECT_EQ(gridValues(range), grid);
+    }
+}
+
+TEST(SignalChartGeometry, SpreadsTheSamplesFromEdgeToEdge)
+{
+    const SignalChartGeometry three = geometry(history({-55, -82, -60}));
+    const QList<QPointF> expected{{0, 250.0 * 5 / 37}, {300, 250.0 * 32 / 37}, {600, 250.0 * 10 / 37}};
+    EXPECT_EQ(corners(three.signalLine()), expected);
+    EXPECT_EQ(corners(three.noiseLine()).last(), QPointF(600, 250.0 * 40 / 37)) << "below the bottom edge";
+    EXPECT_EQ(three.gridLines().first(), QLineF(0, 0, 600, 0));
+    EXPECT_NEAR(three.gridLines().last().y1(), 250.0 * 36 / 37, 1e-9);
+
+    EXPECT_EQ(corners(geometry(history({-60, -60})).signalLine()), (QList<QPointF>{{0, 125}, {600, 125}}));
+    EXPECT_EQ(geometry(history({-50})).signalPoint(0), QPointF(0, 125));
+}
+
+TEST(SignalChartGeometry, IsHorizontalAtEverySampleAndNeverOvershoots)
+{
+    const QPainterPath line = geometry(history({-80, -40, -40, -100, -50})).signalLine();
+    ASSERT_EQ(line.elementCount(), 1 + 4 * 3);
+    for (int i = 1; i < line.elementCount(); i += 3) {
+        const QPointF start = line.elementAt(i - 1);
+        const QPointF end = line.elementAt(i + 2);
+        const double middle = (start.x() + end.x()) / 2;
+        EXPECT_EQ(QPointF(line.elementAt(i)), QPointF(middle, start.y()));
+        EXPECT_EQ(QPointF(line.elementAt(i + 1)), QPointF(middle, end.y()));
+    }
+    const double top = 250.0 * 5 / 70;
+    EXPECT_EQ(line.boundingRect(), QRectF(0, top, 600, 250 - 2 * top));
+}
+
+TEST(SignalChartGeometry, ClosesTheAreaAlongTheEdges)
+{
+    EXPECT_TRUE(geometry({}).area().isEmpty());
+    EXPECT_TRUE(geometry({}).signalLine().isEmpty());
+
+    const SignalChartGeometry one = geometry(history({-50}));
+    EXPECT_EQ(corners(one.area()), (QList<QPointF>{{0, 250}, {0, 125}, {600, 250}, {0, 250}}));
+    EXPECT_EQ(one.signalLine().length(), 0);
+
+    const SignalChartGeometry two = geometry(history({-50, -60}));
+    EXPECT_EQ(corners(two.area()), (QList<QPointF>{{0, 250}, {0, 62.5}, {600, 187.5}, {600, 250}, {0, 250}}));
+}
+
+TEST(SignalChartGeometry, WritesTheValuesAsOneBlockInTheMiddle)
+{
+    const QList<QRectF> labels = valueLabels({6, 18, 24}, 12, full);
+    EXPECT_EQ(labels, (QList<QRectF>{{18, 103, 6, 12}, {6, 119, 18, 12}, {0, 135, 24, 12}}));
+    EXPECT_TRUE(valueLabels({}, 12, full).isEmpty());
+}
+
+TEST(TrimmedPath, EndsAtItsShareOfTheLengthAlongTheCurve)
+{
+    // Of very different lengths: a share of the segments or of the width is no share of the length.
+    const QPainterPath line = geometry(history({-50, -100, -99, -99, -30})).signalLine();
+    for (const double fraction : {0.0, 0.001, 0.25, 0.5, 0.77, 0.999, 1.0}) {
+        SCOPED_TRACE(fraction);
+        const QPainterPath drawn = trimmed(line, fraction);
+        const double length = line.length() * fraction;
+        EXPECT_NEAR(drawn.length(), length, 0.1);
+        // On the whole line, not beside it.
+        const QPointF there = line.pointAtPercent(line.percentAtLength(length));
+        EXPECT_NEAR(drawn.currentPosition().x(), there.x(), 0.1);
+        EXPECT_NEAR(drawn.currentPosition().y(), there.y(), 0.1);
+    }
+    EXPECT_TRUE(trimmed({}, 0.5).isEmpty());
+    EXPECT_EQ(trimmed(geometry(history({-50})).signalLine(), 0.5).length(), 0);
+}
+
+} // namespace aerolith
