@@ -10,6 +10,13 @@ namespace {
 
 constexpr QSizeF full(600, 250);
 
+struct ScaleCase
+{
+    SignalHistoryList history;
+    SignalRange range;
+    QList<qint64> grid;
+};
+
 SignalChartGeometry geometry(const SignalHistoryList& history)
 {
     return {history, full};
@@ -32,12 +39,7 @@ QList<QPointF> corners(const QPainterPath& path)
 
 TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
 {
-    struct
-    {
-        SignalHistoryList history;
-        SignalRange range;
-        QList<qint64> grid;
-    } const cases[] = {
+    const QList<ScaleCase> cases{
         {{}, {-100, 0}, {0, -16, -32, -48, -64, -80, -96}},
         {history({-50}), {-55, -45}, {-45, -46, -47, -48, -49, -50, -51, -52, -53, -54, -55}},
         {history({-55, -82, -60}), {-87, -50}, {-50, -56, -62, -68, -74, -80, -86}},
