@@ -1,0 +1,22 @@
+#include "ui/common/SecondaryLabel.h"
+
+#include "ui/common/Theme.h"
+
+#include <QPainter>
+
+namespace aerolith {
+
+SecondaryLabel::SecondaryLabel(int pixelSize, QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setFont(Theme::font(font(), pixelSize));
+}
+
+void SecondaryLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(Theme::secondary(palette().color(foregroundRole()), palette().color(backgroundRole())));
+    painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
+}
+
+} // namespace aerolith

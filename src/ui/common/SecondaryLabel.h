@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QLabel>
+
+namespace aerolith {
+
+/// Plain text in a quieter colour than its surroundings, readable on them in light and dark.
+class SecondaryLabel : public QLabel
+{
+public:
+    /// Text size in device-independent pixels.
+    explicit SecondaryLabel(int pixelSize, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace aerolith

@@ -1,0 +1,73 @@
+#include "ui/common/Spinner.h"
+#include "ui/common/Switch.h"
+#include "ui/common/SymbolButton.h"
+
+#include <QImage>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QColor darkest(const QImage& image)
+{
+    QColor found = Qt::white;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            found = pixel.lightness() < found.lightness() ? pixel : found;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+TEST(SymbolButton, FollowsItsPaletteAndFadesWhenDisabled)
+{
+    SymbolButton button(u"trash"_s, u"Clear"_s);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
+    button.setPalette(palette);
+    EXPECT_LT(darkest(button.grab().toImage()).lightness(), 60);
+    button.setEnabled(false);
+    EXPECT_GT(darkest(button.grab().toImage()).lightness(), 120);
+    button.setEnabled(true);
+    palette.setColor(QPalette::ButtonText, Qt::red);
+    button.setPalette(palette);
+    EXPECT_GT(darkest(button.grab().toImage()).red(), 200);
+}
+
+TEST(Spinner, TurnsOnlyWhileItIsShown)
+{
+    Spinner spinner;
+    EXPECT_FALSE(spinner.isTurning());
+    spinner.show();
+    EXPECT_TRUE(spinner.isTurning());
+    const QImage first = spinner.grab().toImage();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return spinner.grab().toImage() != first; }, 2000));
+    spinner.hide();
+    EXPECT_FALSE(spinner.isTurning());
+}
+
+TEST(Switch, IsThrownByMouseAndKeyAnywhereOnIt)
+{
+    Switch control;
+    control.setText(u"All Networks"_s);
+    control.resize(control.sizeHint());
+    control.show();
+    const QImage off = control.grab().toImage();
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(control.width() - 3, 3));
+    EXPECT_TRUE(control.isChecked());
+    EXPECT_NE(control.grab().toImage(), off);
+    QTest::keyClick(&control, Qt::Key_Space);
+    EXPECT_FALSE(control.isChecked());
+}
+
+} // namespace aerolith
