@@ -1,6 +1,7 @@
 #include "plug/PluggedPlatform.h"
 
 #include "platform/linux/LinuxMachine.h"
+#include "platform/linux/xdg/XdgWorkspace.h"
 #include "platform/qt/Locale.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/SettingsFile.h"
@@ -45,6 +46,13 @@ public:
                 .locale = environmentLocale()};
     }
 
+    [[nodiscard]] DesktopServices desktopServices() override
+    {
+        return {.loginItem = m_machine.loginItem(),
+                .workspace = m_workspace,
+                .hostAddresses = m_machine.hostAddresses()};
+    }
+
     void stopScanning() override { m_machine.stopScanning(); }
 
 private:
@@ -52,6 +60,8 @@ private:
     SettingsFile m_settings;
     SystemClock m_clock;
     QtMainQueue m_mainQueue;
+    /// The desktop is the user's own, also around a simulated machine.
+    XdgWorkspace m_workspace;
     /// Last: it may use the others.
     Machine m_machine;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DesktopServices.h"
 #include "platform/Result.h"
 #include "platform/Surroundings.h"
 #include "plug/Simulation.h"
@@ -35,6 +36,9 @@ public:
 
     /// References to what this object owns.
     [[nodiscard]] virtual Surroundings surroundings() = 0;
+
+    /// References to what this object owns.
+    [[nodiscard]] virtual DesktopServices desktopServices() = 0;
 
     /// Ends the scans that are under way, and every later one, as soon as the platform can: to be called
     /// before the engine is destroyed, which waits for its scan. Any thread.

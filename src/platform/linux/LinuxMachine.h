@@ -2,8 +2,10 @@
 
 #include "platform/Log.h"
 #include "platform/Queues.h"
+#include "platform/linux/LinuxHostAddresses.h"
 #include "platform/linux/LinuxLocationManager.h"
 #include "platform/linux/LinuxWiFiClient.h"
+#include "platform/linux/xdg/XdgLoginItem.h"
 
 namespace aerolith {
 
@@ -20,6 +22,10 @@ public:
 
     [[nodiscard]] CLLocationManager& locationManager() { return m_locationManager; }
 
+    [[nodiscard]] LoginItem& loginItem() { return m_loginItem; }
+
+    [[nodiscard]] HostAddresses& hostAddresses() { return m_hostAddresses; }
+
     /// Ends the scans that are under way, and every later one, at once: to be called before a queue that
     /// scans is destroyed, which waits for its scan. Any thread.
     void stopScanning() { m_wifiClient.stopScanning(); }
@@ -27,6 +33,8 @@ public:
 private:
     LinuxWiFiClient m_wifiClient;
     LinuxLocationManager m_locationManager;
+    XdgLoginItem m_loginItem;
+    LinuxHostAddresses m_hostAddresses;
 };
 
 } // namespace aerolith

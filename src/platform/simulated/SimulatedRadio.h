@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/simulated/Scenario.h"
+#include "platform/simulated/SimulatedDesktop.h"
 #include "platform/simulated/SimulatedInterface.h"
 #include "platform/simulated/SimulatedLocationManager.h"
 #include "platform/simulated/SimulatedWiFiClient.h"
@@ -10,8 +11,8 @@ namespace aerolith {
 /// A machine that follows a scenario, to be plugged in where the real one would be. It outlives whatever uses
 /// it; the main queue outlives it.
 ///
-/// The program knows the machine only through wifiClient() and locationManager(). The other operations are
-/// what happens around the program.
+/// The program knows the machine only through what its first operations hand out. The others, from
+/// setAuthorization() on, are what happens around the program.
 class SimulatedRadio
 {
 public:
@@ -24,6 +25,10 @@ public:
     [[nodiscard]] CWWiFiClient& wifiClient() { return m_wifiClient; }
 
     [[nodiscard]] CLLocationManager& locationManager() { return m_locationManager; }
+
+    [[nodiscard]] LoginItem& loginItem() { return m_loginItem; }
+
+    [[nodiscard]] HostAddresses& hostAddresses() { return m_hostAddresses; }
 
     /// Ends the scans that are under way, and every later one, at once: to be called before a queue that
     /// scans is destroyed, which waits for its scan. Any thread.
@@ -43,6 +48,8 @@ private:
     const std::shared_ptr<SimulatedInterface> m_interface;
     SimulatedWiFiClient m_wifiClient;
     SimulatedLocationManager m_locationManager;
+    SimulatedLoginItem m_loginItem;
+    SimulatedHostAddresses m_hostAddresses;
 };
 
 } // namespace aerolith

@@ -1,0 +1,59 @@
+#include "platform/linux/xdg/XdgWorkspace.h"
+
+#include "platform/linux/xdg/SettingsCommands.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Failure startDetached(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached() ? Failure()
+                                   : Error{u"%1 cannot be started: %2"_s.arg(program, process.errorString())};
+}
+
+/// Starts the first command whose program is there. `what` completes "Cannot open ...".
+Failure startFirst(const QString& what, const QList<QStringList>& commands)
+{
+    QStringList missing;
+    for (const QStringList& command : commands) {
+        const QString program = QStandardPaths::findExecutable(command.first());
+        if (!program.isEmpty()) {
+            return startDetached(program, command.sliced(1));
+        }
+        missing.append(command.first());
+    }
+    missing.removeDuplicates();
+    return Error{u"Cannot open %1: not installed: %2"_s.arg(what, missing.join(u", "_s))};
+}
+
+} // namespace
+
+Failure XdgWorkspace::openUrl(const QUrl& url)
+{
+    const QStringList schemes{u"http"_s, u"https"_s, u"mailto"_s};
+    const QString text = url.toString(QUrl::FullyEncoded);
+    if (!url.isValid() || !schemes.contains(url.scheme())) {
+        return Error{u"Cannot open %1: not a web or mail address"_s.arg(text)};
+    }
+    return startFirst(text, {{u"xdg-open"_s, text}, {u"gio"_s, u"open"_s, text}});
+}
+
+Failure XdgWorkspace::openSettings(SettingsPage page)
+{
+    const QString what = page == SettingsPage::wifi ? u"the Wi-Fi settings"_s : u"the network settings"_s;
+    return startFirst(what, settingsCommands(page, qEnvironmentVariable("XDG_CURRENT_DESKTOP")));
+}
+
+} // namespace aerolith

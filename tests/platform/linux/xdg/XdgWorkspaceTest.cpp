@@ -1,0 +1,92 @@
+#include "platform/linux/xdg/XdgWorkspace.h"
+
+#include "support/Printing.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A desktop whose programs write down how they were called.
+class XdgWorkspaceTest : public testing::Test
+{
+protected:
+    XdgWorkspaceTest()
+    {
+        qputenv("PATH", bin.path().toUtf8());
+        qputenv("XDG_CURRENT_DESKTOP", "GNOME");
+    }
+
+    ~XdgWorkspaceTest() override { qputenv("PATH", oldPath); }
+
+    void install(const QString& program)
+    {
+        QFile file(bin.filePath(program));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        const QByteArray called = QFile::encodeName(calledFile());
+        file.write("#!/bin/sh\nprintf '%s\\n' \"${0##*/}\" \"$@\" >'" + called + ".new'\n" + "/bin/mv '" +
+                   called + ".new' '" + called + "'\n/bin/sleep 3\n");
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    /// The program and the arguments of the call, one in a line; waits for it.
+    QString call() const
+    {
+        QFile file(calledFile());
+        for (const QDeadlineTimer deadline(5000); !file.exists() && !deadline.hasExpired();) {
+            QThread::msleep(5);
+        }
+        EXPECT_TRUE(file.open(QFile::ReadOnly));
+        QString lines = QString::fromUtf8(file.readAll()).trimmed();
+        file.remove();
+        return lines;
+    }
+
+    [[nodiscard]] QString calledFile() const { return bin.filePath(u"called"_s); }
+
+    const QByteArray oldPath = qgetenv("PATH");
+    QTemporaryDir bin;
+    XdgWorkspace workspace;
+};
+
+} // namespace
+
+TEST_F(XdgWorkspaceTest, StartsWhatIsThereAndDoesNotWaitForIt)
+{
+    const QDeadlineTimer beforeTheyEnd(3000);
+    install(u"nm-connection-editor"_s);
+    EXPECT_FALSE(workspace.openSettings(SettingsPage::network));
+    EXPECT_EQ(call(), u"nm-connection-editor"_s);
+
+    install(u"gnome-control-center"_s);
+    EXPECT_FALSE(workspace.openSettings(SettingsPage::wifi));
+    EXPECT_EQ(call(), u"gnome-control-center\nwifi"_s);
+
+    install(u"xdg-open"_s);
+    EXPECT_FALSE(workspace.openUrl(QUrl(u"mailto:help@example.org?subject=A b&body=$(date)"_s)));
+    EXPECT_EQ(call(), u"xdg-open\nmailto:help@example.org?subject=A%20b&body=$(date)"_s);
+    EXPECT_FALSE(beforeTheyEnd.hasExpired());
+}
+
+TEST_F(XdgWorkspaceTest, SaysWhyNothingOpens)
+{
+    EXPECT_EQ(
+        workspace.openSettings(SettingsPage::network)->description,
+        u"Cannot open the network settings: not installed: gnome-control-center, nm-connection-editor"_s);
+    EXPECT_TRUE(workspace.openUrl(QUrl(u"https://example.org"_s)));
+    install(u"xdg-open"_s);
+    for (const QString& url : {u"file:///etc/passwd"_s, u"--help"_s, u"javascript:alert(1)"_s, QString()}) {
+        EXPECT_TRUE(workspace.openUrl(QUrl(url))) << url.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(calledFile()));
+}
+
+} // namespace aerolith
