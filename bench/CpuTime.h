@@ -2,7 +2,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <ctime>
+#include <limits>
 #include <map>
 #include <string>
 #include <utility>
@@ -17,11 +19,19 @@ inline double cpuSeconds()
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
-/// Mean CPU seconds of one run, by name and size, for the ratios at the end of a program.
-inline std::map<std::pair<std::string, long>, double>& meanSeconds()
+/// CPU seconds of the runs of one benchmark.
+struct Seconds
 {
-    static std::map<std::pair<std::string, long>, double> means;
-    return means;
+    double mean = 0;
+    /// The run that was disturbed least: others on the machine share its caches and can only slow a run down.
+    double fastest = 0;
+};
+
+/// By name and size, for the ratios at the end of a program.
+inline std::map<std::pair<std::string, long>, Seconds>& measured()
+{
+    static std::map<std::pair<std::string, long>, Seconds> all;
+    return all;
 }
 
 /// Times the part of each iteration that counts. Lives as long as the benchmark's loop.
@@ -36,7 +46,11 @@ public:
     CpuTimer(const CpuTimer&) = delete;
     CpuTimer& operator=(const CpuTimer&) = delete;
 
-    ~CpuTimer() { meanSeconds()[m_key] = m_total / static_cast<double>(m_state.iterations()); }
+    ~CpuTimer()
+    {
+        measured()[m_key] = {.mean = m_total / static_cast<double>(m_state.iterations()),
+                             .fastest = m_fastest};
+    }
 
     template <typename Work>
     void time(Work work)
@@ -46,12 +60,14 @@ public:
         const double elapsed = cpuSeconds() - start;
         m_state.SetIterationTime(elapsed);
         m_total += elapsed;
+        m_fastest = std::min(m_fastest, elapsed);
     }
 
 private:
     benchmark::State& m_state;
     std::pair<std::string, long> m_key;
     double m_total = 0;
+    double m_fastest = std::numeric_limits<double>::infinity();
 };
 
 } // namespace aerolith

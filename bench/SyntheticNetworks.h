@@ -5,18 +5,23 @@
 #include <QList>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
+#include <vector>
 
 namespace aerolith {
 
 /// `count` access points as a scan might hear them: mixed security, channels and modes, in no order of
-/// address.
+/// address, each one's texts beside the next one's in memory, as decoding leaves them.
 inline QList<CWNetwork> syntheticResults(int count)
 {
     std::mt19937 random(42);
+    std::vector<int> order(static_cast<std::size_t>(count));
+    std::iota(order.begin(), order.end(), 0);
+    std::shuffle(order.begin(), order.end(), random);
     QList<CWNetwork> results;
     results.reserve(count);
-    for (int i = 0; i < count; ++i) {
+    for (const int i : order) {
         CWNetwork result;
         result.bssid = QStringLiteral("0a:10:%1:%2:%3:%4")
                            .arg(i >> 16 & 255, 2, 16, QChar(u'0'))
@@ -38,7 +43,6 @@ inline QList<CWNetwork> syntheticResults(int count)
         result.beaconInterval = 100;
         results.append(result);
     }
-    std::shuffle(results.begin(), results.end(), random);
     return results;
 }
 

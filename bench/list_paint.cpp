@@ -145,7 +145,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     for (const char* name : {"reordered", "in place", "cold", "paint"}) {
-        const double milliseconds = aerolith::meanSeconds()[{name, 10'000}] * 1000;
+        const double milliseconds = aerolith::measured()[{name, 10'000}].mean * 1000;
         std::printf("10,000 rows, %s: %.1f ms, %.0f %% of a frame\n", name, milliseconds,
                     milliseconds / aerolith::frameMilliseconds * 100);
     }

@@ -74,7 +74,7 @@ void ScanCommand::writeDetails(const Arguments::Details& asked)
         trouble(ExitStatus::unknownAccessPoint, u"No access point %1 was heard"_s.arg(asked.bssid));
         return;
     }
-    write(asked.file, details(found->value));
+    write(asked.file, details(found.value()));
 }
 
 QByteArray ScanCommand::list()

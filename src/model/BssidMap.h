@@ -1,92 +1,118 @@
 #pragma once
 
-#include "model/BssidOrder.h"
+#include "model/BssidIndex.h"
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace aerolith {
 
-/// Values by BSSID, in BSSID order, so that whatever ties in a later ordering ties the same way in every
-/// cycle. A sorted list, implicitly shared: copying costs a pointer, a merge walks it from front to back and
-/// writes its successor the same way.
+/// Values by BSSID. It is walked in BSSID order, so that whatever ties in a later ordering ties the same way
+/// in every cycle. Implicitly shared: copying costs a few pointers, and maps made by one merge share one
+/// index.
 template <typename Value>
 class BssidMap
 {
 public:
     struct Entry
     {
-        QString bssid;
-        Value value;
+        const QString& bssid;
+        const Value& value;
     };
 
-    using const_iterator = typename QList<Entry>::const_iterator;
-
-    [[nodiscard]] const_iterator begin() const { return m_entries.cbegin(); }
-
-    [[nodiscard]] const_iterator end() const { return m_entries.cend(); }
-
-    [[nodiscard]] qsizetype size() const { return m_entries.size(); }
-
-    [[nodiscard]] bool isEmpty() const { return m_entries.isEmpty(); }
-
-    /// Only for an index from 0 to size() - 1.
-    [[nodiscard]] const Entry& at(qsizetype index) const { return m_entries.at(index); }
-
-    /// The key of at(index).
-    [[nodiscard]] BssidKey keyAt(qsizetype index) const
+    class const_iterator
     {
-        return {m_numbers.at(index), m_entries.at(index).bssid};
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = Entry;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const Entry*;
+        using reference = Entry;
+
+        const_iterator(const BssidMap& map, qsizetype rank) : m_map(&map), m_rank(rank) {}
+
+        Entry operator*() const
+        {
+            const qsizetype place = m_map->m_index.placeOfRank(m_rank);
+            return {m_map->m_index.bssidAt(place), m_map->m_values.at(place)};
+        }
+
+        [[nodiscard]] const Value& value() const { return (**this).value; }
+
+        const_iterator& operator++()
+        {
+            ++m_rank;
+            return *this;
+        }
+
+        friend bool operator==(const const_iterator&, const const_iterator&) = default;
+
+    private:
+        const BssidMap* m_map;
+        qsizetype m_rank;
+    };
+
+    BssidMap() = default;
+
+    /// `values` by the places of the index, one for each.
+    BssidMap(BssidIndex index, QList<Value> values) : m_index(std::move(index)), m_values(std::move(values))
+    {
+        Q_ASSERT(m_index.size() == m_values.size());
     }
+
+    [[nodiscard]] const_iterator begin() const { return {*this, 0}; }
+
+    [[nodiscard]] const_iterator end() const { return {*this, size()}; }
+
+    [[nodiscard]] qsizetype size() const { return m_values.size(); }
+
+    [[nodiscard]] bool isEmpty() const { return m_values.isEmpty(); }
 
     /// end() when there is none.
     [[nodiscard]] const_iterator find(const QString& bssid) const
     {
-        const BssidKey key(bssid);
-        qsizetype begin = 0;
-        qsizetype end = size();
-        while (begin < end) {
-            const qsizetype middle = begin + (end - begin) / 2;
-            if (keyAt(middle) < key) {
-                begin = middle + 1;
-            } else {
-                end = middle;
-            }
-        }
-        return begin < size() && keyAt(begin) == key ? m_entries.cbegin() + begin : this->end();
+        const qsizetype rank = m_index.rankOf(BssidKey(bssid));
+        return rank == BssidIndex::nowhere ? end() : const_iterator(*this, rank);
     }
 
     [[nodiscard]] bool contains(const QString& bssid) const { return find(bssid) != end(); }
 
-    [[nodiscard]] QList<QString> keys() const
+    [[nodiscard]] QStringList keys() const
     {
-        QList<QString> keys;
+        QStringList keys;
         keys.reserve(size());
-        for (const Entry& entry : *this) {
+        for (const Entry entry : *this) {
             keys.append(entry.bssid);
         }
         return keys;
     }
 
-    void reserve(qsizetype count)
-    {
-        m_entries.reserve(count);
-        m_numbers.reserve(count);
-    }
+    [[nodiscard]] const BssidIndex& index() const { return m_index; }
 
-    /// The key must be greater than every one that the map holds; `bssid` is its text.
-    void append(quint64 number, const QString& bssid, Value value)
+    /// The values by the places of another map's index; a default value for what this map does not hold.
+    [[nodiscard]] QList<Value> valuesFor(const BssidIndex& index) const
     {
-        m_numbers.append(number);
-        m_entries.append(Entry{bssid, std::move(value)});
+        if (index.isSharedWith(m_index)) {
+            return m_values;
+        }
+        QList<Value> values;
+        values.reserve(index.size());
+        for (qsizetype place = 0; place < index.size(); ++place) {
+            const qsizetype own = m_index.placeOf(BssidKey(index.bssidAt(place)), place);
+            values.append(own == BssidIndex::nowhere ? Value() : m_values.at(own));
+        }
+        return values;
     }
 
 private:
-    QList<Entry> m_entries;
-    /// The number of each entry's BSSID: a search touches these alone.
-    QList<quint64> m_numbers;
+    BssidIndex m_index;
+    /// By place.
+    QList<Value> m_values;
 };
 
 } // namespace aerolith

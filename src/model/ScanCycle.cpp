@@ -90,7 +90,7 @@ void WiFiScanner::handleScanResults(const MergedCycle& cycle)
     updateNetworks(merged);
     if (selected) {
         if (const auto found = merged.find(*selected); found != merged.end()) {
-            m_selectionStore.select(found->value);
+            m_selectionStore.select(found.value());
         }
     }
     setStatus(ScannerStatus::idle);
@@ -118,7 +118,7 @@ void WiFiScanner::updateNetworks(const BssidMap<WiFiNetwork>& merged)
     }
     m_surroundings.mainQueue.async(m_lifeline.guarded(
         [this, ordered = inScanOrder(visibleNetworks()),
-         record = reselected != merged.end() ? std::optional(reselected->value) : std::nullopt] {
+         record = reselected != merged.end() ? std::optional(reselected.value()) : std::nullopt] {
             publishNetworks(ordered);
             if (record) {
                 m_selectionStore.select(record);

@@ -2,7 +2,8 @@
 
 #include "model/NetworkRecord.h"
 
-#include <algorithm>
+#include <QHash>
+
 #include <utility>
 #include <vector>
 
@@ -10,95 +11,77 @@ namespace aerolith {
 
 namespace {
 
-struct Sighting
-{
-    BssidKey key;
-    const CWNetwork* result;
-};
-
-/// The accepted results by BSSID; results of one BSSID keep the order in which they were heard.
-std::vector<Sighting> acceptedByBssid(const QList<CWNetwork>& results)
-{
-    std::vector<Sighting> accepted;
-    accepted.reserve(static_cast<std::size_t>(results.size()));
-    for (const CWNetwork& result : results) {
-        if (isAccepted(result)) {
-            accepted.push_back({.key = BssidKey(*result.bssid), .result = &result});
-        }
-    }
-    std::stable_sort(accepted.begin(), accepted.end(),
-                     [](const Sighting& a, const Sighting& b) { return a.key < b.key; });
-    return accepted;
-}
-
-/// Looks keys up that are asked for in ascending order, each in constant time on the whole.
-template <typename Value>
-class AscendingLookup
-{
-public:
-    explicit AscendingLookup(const BssidMap<Value>& map) : m_map(map) {}
-
-    /// A default value when the map does not hold the key.
-    Value value(const BssidKey& key)
-    {
-        while (m_at < m_map.size() && m_map.keyAt(m_at) < key) {
-            ++m_at;
-        }
-        return m_at < m_map.size() && m_map.keyAt(m_at) == key ? m_map.at(m_at).value : Value();
-    }
-
-private:
-    const BssidMap<Value>& m_map;
-    qsizetype m_at = 0;
-};
-
 class Merge
 {
 public:
     Merge(const AccessPoints& known, const ScanCycle& cycle, const std::function<qint64()>& historyLimit,
           IdentifierSource& identifiers)
-        : m_known(known)
-        , m_cycle(cycle)
+        : m_cycle(cycle)
         , m_historyLimit(historyLimit)
         , m_identifiers(identifiers)
-        , m_histories(known.networkHistory)
-        , m_lastSeen(known.lastSeenTimestamp)
+        , m_index(known.allNetworks.index())
+        , m_knownNetworks(known.allNetworks.valuesFor(m_index))
+        , m_knownHistories(known.networkHistory.valuesFor(m_index))
+        , m_knownLastSeen(known.lastSeenTimestamp.valuesFor(m_index))
     {
     }
 
     AccessPoints run()
     {
-        const std::vector<Sighting> heard = acceptedByBssid(m_cycle.results);
-        reserve(std::max<qsizetype>(m_known.allNetworks.size(), std::ssize(heard)));
-        const BssidMap<WiFiNetwork>& known = m_known.allNetworks;
-        qsizetype missed = 0;
-        for (auto at = heard.cbegin(); at != heard.cend();) {
-            const BssidKey key = at->key;
-            for (; missed < known.size() && known.keyAt(missed) < key; ++missed) {
-                addMissed(missed);
+        findPlaces();
+        m_networks.reserve(m_index.size());
+        m_histories.reserve(m_index.size());
+        m_lastSeen.reserve(m_index.size());
+        for (qsizetype place = 0; place < m_index.size(); ++place) {
+            if (const Sighting* sighting = m_heard[static_cast<std::size_t>(place)]) {
+                addHeard(place, *sighting);
+            } else {
+                addMissed(place);
             }
-            if (missed < known.size() && known.keyAt(missed) == key) {
-                ++missed;
-            }
-            const auto next =
-                std::find_if(at, heard.cend(), [&](const Sighting& other) { return !(other.key == key); });
-            addHeard(at, next);
-            at = next;
         }
-        for (; missed < known.size(); ++missed) {
-            addMissed(missed);
-        }
-        return std::move(m_merged);
+        return {.allNetworks = {m_index, std::move(m_networks)},
+                .networkHistory = {m_index, std::move(m_histories)},
+                .lastSeenTimestamp = {m_index, std::move(m_lastSeen)}};
     }
 
 private:
-    using SightingIterator = std::vector<Sighting>::const_iterator;
-
-    void reserve(qsizetype count)
+    /// One accepted result, and the next one of the same access point in this cycle.
+    struct Sighting
     {
-        m_merged.allNetworks.reserve(count);
-        m_merged.networkHistory.reserve(count);
-        m_merged.lastSeenTimestamp.reserve(count);
+        const CWNetwork* result;
+        Sighting* next = nullptr;
+    };
+
+    /// Files every accepted result under its access point's place. Those not known before come to the end of
+    /// the index.
+    void findPlaces()
+    {
+        // Never grows beyond this: sightings point to each other.
+        m_sightings.reserve(static_cast<std::size_t>(m_cycle.results.size()));
+        m_heard.resize(static_cast<std::size_t>(m_index.size()));
+        QStringList fresh;
+        QHash<QString, qsizetype> freshPlaces;
+        qsizetype place = BssidIndex::nowhere;
+        for (const CWNetwork& result : m_cycle.results) {
+            if (!isAccepted(result)) {
+                continue;
+            }
+            place = m_index.placeOf(BssidKey(*result.bssid), place + 1);
+            if (place == BssidIndex::nowhere) {
+                place = freshPlaces.value(*result.bssid, std::ssize(m_heard));
+            }
+            if (place == std::ssize(m_heard)) {
+                freshPlaces.insert(*result.bssid, place);
+                fresh.append(*result.bssid);
+                m_heard.push_back(nullptr);
+            }
+            Sighting** end = &m_heard[static_cast<std::size_t>(place)];
+            while (*end) {
+                end = &(*end)->next;
+            }
+            *end = &m_sightings.emplace_back(Sighting{.result = &result});
+        }
+        m_index.add(fresh);
     }
 
     SignalHistory sample(qint64 rssi, qint64 noise)
@@ -107,41 +90,47 @@ private:
     }
 
     /// Every sighting of one access point in this cycle leaves a sample; the last makes the record.
-    void addHeard(SightingIterator first, SightingIterator end)
+    void addHeard(qsizetype place, const Sighting& first)
     {
-        SignalHistoryList history = m_histories.value(first->key);
-        for (auto at = first; at != end; ++at) {
-            history = history.appended(sample(at->result->rssiValue, recordNoise), m_historyLimit());
+        SignalHistoryList history = m_knownHistories.value(place);
+        const CWNetwork* last = nullptr;
+        for (const Sighting* sighting = &first; sighting; sighting = sighting->next) {
+            last = sighting->result;
+            history = history.appended(sample(last->rssiValue, recordNoise), m_historyLimit());
         }
-        const CWNetwork& result = *(end - 1)->result;
-        add(first->key, makeNetwork(result, m_cycle.scanTime, m_cycle.currentBSSID, history, m_identifiers),
-            m_cycle.scanTime);
+        m_networks.append(makeNetwork(*last, m_cycle.scanTime, m_cycle.currentBSSID, history, m_identifiers));
+        m_histories.append(std::move(history));
+        m_lastSeen.append(m_cycle.scanTime);
     }
 
-    void addMissed(qsizetype index)
+    void addMissed(qsizetype place)
     {
-        const BssidKey key = m_known.allNetworks.keyAt(index);
-        WiFiNetwork record = m_known.allNetworks.at(index).value;
-        record.signalHistory = m_histories.value(key).appended(
+        WiFiNetwork record = m_knownNetworks.at(place);
+        record.signalHistory = m_knownHistories.at(place).appended(
             sample(SignalHistory::missedRssi, record.noise), m_historyLimit());
-        add(key, std::move(record), m_lastSeen.value(key));
+        m_histories.append(record.signalHistory);
+        m_networks.append(std::move(record));
+        m_lastSeen.append(m_knownLastSeen.at(place));
     }
 
-    void add(const BssidKey& key, WiFiNetwork record, TimePoint lastSeen)
-    {
-        const QString bssid = record.bssid;
-        m_merged.networkHistory.append(key.number, bssid, record.signalHistory);
-        m_merged.lastSeenTimestamp.append(key.number, bssid, lastSeen);
-        m_merged.allNetworks.append(key.number, bssid, std::move(record));
-    }
-
-    const AccessPoints& m_known;
     const ScanCycle& m_cycle;
     const std::function<qint64()>& m_historyLimit;
     IdentifierSource& m_identifiers;
-    AscendingLookup<SignalHistoryList> m_histories;
-    AscendingLookup<TimePoint> m_lastSeen;
-    AccessPoints m_merged;
+    BssidIndex m_index;
+
+    // By place, the places known before.
+    QList<WiFiNetwork> m_knownNetworks;
+    QList<SignalHistoryList> m_knownHistories;
+    QList<TimePoint> m_knownLastSeen;
+
+    // By place.
+    QList<WiFiNetwork> m_networks;
+    QList<SignalHistoryList> m_histories;
+    QList<TimePoint> m_lastSeen;
+    /// The first sighting in this cycle; null for an access point that was not heard.
+    std::vector<Sighting*> m_heard;
+
+    std::vector<Sighting> m_sightings;
 };
 
 } // namespace

@@ -50,7 +50,7 @@ QString rssis(const SignalHistoryList& history)
 
 QString rssisOf(const AccessPoints& points, const QString& bssid)
 {
-    return rssis(points.networkHistory.find(bssid)->value);
+    return rssis(points.networkHistory.find(bssid).value());
 }
 
 } // namespace
@@ -77,14 +77,14 @@ TEST(ScanMerge, MarksAMissedCycleAndKeepsTheLastSighting)
     merger.cycle({network(u"aa"_s, u"A"_s, -40)}, u"aa"_s);
     const TimePoint sighted = merger.time();
     const AccessPoints& points = merger.cycle({network(u"bb"_s, u"B"_s, -50)});
-    const WiFiNetwork missed = points.allNetworks.find(u"aa"_s)->value;
+    const WiFiNetwork missed = points.allNetworks.find(u"aa"_s).value();
     EXPECT_EQ(rssis(missed.signalHistory), u"-40 -100"_s);
     EXPECT_EQ(missed.signalHistory.last().noise, -90);
     EXPECT_EQ(missed.signalHistory.last().timestamp, merger.time());
     EXPECT_EQ(missed.rssi, -40);
     EXPECT_EQ(missed.timestamp, sighted);
     EXPECT_TRUE(missed.isCurrentNetwork) << "recomputed only when it is heard again";
-    EXPECT_EQ(points.lastSeenTimestamp.find(u"aa"_s)->value, sighted);
+    EXPECT_EQ(points.lastSeenTimestamp.find(u"aa"_s).value(), sighted);
 }
 
 TEST(ScanMerge, MovesTheCurrentNetwork)
@@ -93,8 +93,8 @@ TEST(ScanMerge, MovesTheCurrentNetwork)
     const QList<CWNetwork> both{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"B"_s)};
     merger.cycle(both, u"aa"_s);
     const AccessPoints& points = merger.cycle(both, u"bb"_s);
-    EXPECT_FALSE(points.allNetworks.find(u"aa"_s)->value.isCurrentNetwork);
-    EXPECT_TRUE(points.allNetworks.find(u"bb"_s)->value.isCurrentNetwork);
+    EXPECT_FALSE(points.allNetworks.find(u"aa"_s).value().isCurrentNetwork);
+    EXPECT_TRUE(points.allNetworks.find(u"bb"_s).value().isCurrentNetwork);
 }
 
 TEST(ScanMerge, CutsHistoriesFromTheFront)
@@ -105,7 +105,7 @@ TEST(ScanMerge, CutsHistoriesFromTheFront)
     }
     const AccessPoints& full = merger.cycle({});
     EXPECT_EQ(rssisOf(full, u"aa"_s).left(5), u"-4 -5"_s);
-    EXPECT_EQ(full.networkHistory.find(u"aa"_s)->value.size(), 20);
+    EXPECT_EQ(full.networkHistory.find(u"aa"_s).value().size(), 20);
 
     merger.limit = 3;
     EXPECT_EQ(rssisOf(merger.cycle({network(u"aa"_s, u"A"_s, -7)}), u"aa"_s), u"-22 -100 -7"_s);
@@ -122,7 +122,7 @@ TEST(ScanMerge, TakesTheLastOfTwoSightingsAndSamplesBoth)
     Merger merger;
     const AccessPoints& points = merger.cycle(
         {network(u"aa"_s, u"First"_s, -40), network(u"bb"_s, u"B"_s), network(u"aa"_s, u"Second"_s, -45)});
-    EXPECT_EQ(points.allNetworks.find(u"aa"_s)->value.ssid, u"Second"_s);
+    EXPECT_EQ(points.allNetworks.find(u"aa"_s).value().ssid, u"Second"_s);
     EXPECT_EQ(rssisOf(points, u"aa"_s), u"-40 -45"_s);
 }
 
@@ -132,7 +132,7 @@ TEST(ScanMerge, LeavesOlderCopiesAlone)
     const AccessPoints before = merger.cycle({network(u"aa"_s, u"A"_s, -40)});
     merger.cycle({network(u"aa"_s, u"A"_s, -41), network(u"bb"_s, u"B"_s)});
     EXPECT_EQ(before.allNetworks.size(), 1);
-    EXPECT_EQ(rssis(before.allNetworks.find(u"aa"_s)->value.signalHistory), u"-40"_s);
+    EXPECT_EQ(rssis(before.allNetworks.find(u"aa"_s).value().signalHistory), u"-40"_s);
 }
 
 TEST(ScanMerge, KeepsTheMapsInStepWhateverComes)
@@ -170,7 +170,7 @@ TEST(ScanMerge, KeepsTheMapsInStepWhateverComes)
         for (auto& [bssid, samples] : expected) {
             samples = samples.last(std::min<qsizetype>(samples.size(), merger.limit));
             ASSERT_EQ(rssisOf(points, bssid), samples.join(u' ')) << round;
-            ASSERT_EQ(rssis(points.allNetworks.find(bssid)->value.signalHistory), samples.join(u' '));
+            ASSERT_EQ(rssis(points.allNetworks.find(bssid).value().signalHistory), samples.join(u' '));
         }
     }
 }
@@ -185,15 +185,32 @@ TEST(BssidMap, FindsAddressesAndOtherTexts)
                                 u"0A:00:00:00:00:FF"_s,
                                 u"0a-00-00-00-00-ff"_s,
                                 u"wlan"_s};
-    BssidMap<int> map;
-    for (const QString& bssid : ascending) {
-        map.append(bssidNumber(bssid), bssid, static_cast<int>(map.size()));
+    // Added in another order, in two steps.
+    const QList<qsizetype> places{6, 2, 0, 7, 3, 1, 5, 4};
+    BssidIndex index;
+    QStringList added;
+    for (const qsizetype rank : places) {
+        added.append(ascending[rank]);
     }
-    for (qsizetype i = 0; i < ascending.size(); ++i) {
-        ASSERT_TRUE(map.contains(ascending[i])) << ascending[i].toStdString();
-        EXPECT_EQ(map.find(ascending[i])->value, i);
-        EXPECT_EQ(BssidKey(ascending[i]) < BssidKey(ascending.last()), i < ascending.size() - 1);
+    index.add(added.first(3));
+    index.add(added.sliced(3));
+    const BssidMap<qsizetype> map(index, places);
+    EXPECT_EQ(map.keys(), ascending);
+    for (qsizetype rank = 0; rank < ascending.size(); ++rank) {
+        ASSERT_TRUE(map.contains(ascending[rank])) << ascending[rank].toStdString();
+        EXPECT_EQ(map.find(ascending[rank]).value(), rank);
     }
     EXPECT_FALSE(map.contains(u"0a:00:00:00:01:01"_s));
     EXPECT_FALSE(map.contains(u"x"_s));
+}
+
+TEST(BssidMap, ReadsItsValuesByTheOrderOfAnother)
+{
+    BssidIndex older;
+    older.add({u"bb"_s, u"aa"_s});
+    BssidIndex newer;
+    newer.add({u"aa"_s, u"cc"_s, u"bb"_s});
+    const BssidMap<int> map(older, {2, 1});
+    EXPECT_EQ(map.valuesFor(older), (QList<int>{2, 1}));
+    EXPECT_EQ(map.valuesFor(newer), (QList<int>{1, 0, 2}));
 }

@@ -233,7 +233,7 @@ TEST(WiFiScanner, ForgetsACycleThatAClearOvertakes)
         engine.wifi.air.duringScan = nullptr;
         engine.cycle({network(u"aa"_s, u"A"_s)});
         expectMapsInStep(*engine.scanner);
-        EXPECT_EQ(engine.scanner->allNetworks().find(u"aa"_s)->value.signalHistory.size(), 1);
+        EXPECT_EQ(engine.scanner->allNetworks().find(u"aa"_s).value().signalHistory.size(), 1);
     }
 }
 
@@ -253,7 +253,7 @@ TEST(WiFiScanner, KeepsTheMapsInStepWhenACycleMergesBeforeTheLastIsApplied)
     engine.cycle({network(u"bb"_s, u"B"_s)});
     expectMapsInStep(*engine.scanner);
     for (const auto& [bssid, record] : engine.scanner->allNetworks()) {
-        EXPECT_EQ(record.signalHistory.size(), engine.scanner->networkHistory().find(bssid)->value.size())
+        EXPECT_EQ(record.signalHistory.size(), engine.scanner->networkHistory().find(bssid).value().size())
             << bssid.toStdString();
     }
 }
