@@ -3,17 +3,22 @@
 #include <QStandardPaths>
 
 #include <cmath>
+#include <utility>
 
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-SettingsFile::SettingsFile(const QString& path, Log& log) : m_file(path, QSettings::IniFormat), m_log(log)
+SettingsFile::SettingsFile(QString path, Log& log) : m_path(std::move(path)), m_log(log)
 {
-    logStatus(u"read"_s);
-    const QStringList keys = m_file.allKeys();
-    for (const QString& key : keys) {
-        m_values.insert(key, m_file.value(key));
+    const QSettings file(m_path, QSettings::IniFormat);
+    if (file.status() == QSettings::AccessError) {
+        m_log.line(accessRefused("read"_L1));
+    } else if (file.status() == QSettings::FormatError) {
+        m_log.line(u"The settings file %1 is malformed: what cannot be read counts as not set"_s.arg(m_path));
+    }
+    for (const QString& key : file.allKeys()) {
+        m_values.insert(key, file.value(key));
     }
 }
 
@@ -55,25 +60,35 @@ void SettingsFile::store(const QString& key, const QVariant& value)
 {
     const std::lock_guard lock(m_mutex);
     m_values.insert(key, value);
-    m_file.setValue(key, value);
-    m_file.sync();
-    logStatus(u"write"_s);
+    m_unsaved.insert(key, value);
+    auto status = save();
+    if (status == QSettings::FormatError) {
+        // That is how the file was found. Now it is well formed, unless it could not be written.
+        status = save();
+    }
+    const bool failed = status != QSettings::NoError;
+    if (!failed) {
+        m_unsaved.clear();
+    } else if (!m_failureLogged) {
+        m_log.line(accessRefused("write"_L1));
+    }
+    m_failureLogged = failed;
 }
 
-void SettingsFile::logStatus(const QString& action)
+QSettings::Status SettingsFile::save() const
 {
-    switch (m_file.status()) {
-    case QSettings::NoError:
-        return;
-    case QSettings::AccessError:
-        m_log.line(
-            u"Cannot %1 the settings file %2: access refused or disk full"_s.arg(action, m_file.fileName()));
-        return;
-    case QSettings::FormatError:
-        m_log.line(u"The settings file %1 is malformed: what cannot be read counts as not set"_s.arg(
-            m_file.fileName()));
-        return;
+    // A new object each time: one that has failed once tells of failure ever after.
+    QSettings file(m_path, QSettings::IniFormat);
+    for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved) {
+        file.setValue(unsaved.key(), unsaved.value());
     }
+    file.sync();
+    return file.status();
+}
+
+QString SettingsFile::accessRefused(QLatin1StringView action) const
+{
+    return u"Cannot %1 the settings file %2: access refused or disk full"_s.arg(action, m_path);
 }
 
 } // namespace aerolith

@@ -12,13 +12,14 @@
 namespace aerolith {
 
 /// The user defaults in an INI file in the format of Qt's settings class. The file is read once and written,
-/// as a whole and in one step, at every change.
+/// as a whole and in one step, at every change. What could not be written is tried again with the next
+/// change; an outage is logged once.
 class SettingsFile : public UserDefaults
 {
 public:
     /// A file that is not there is no settings; one that cannot be read or is malformed is logged, and what
     /// could be read of it counts.
-    SettingsFile(const QString& path, Log& log);
+    SettingsFile(QString path, Log& log);
 
     /// The user's own: $XDG_CONFIG_HOME/aerolith/aerolith.conf, in ~/.config when the variable is unset.
     [[nodiscard]] static QString userPath();
@@ -36,12 +37,16 @@ public:
 private:
     [[nodiscard]] QVariant stored(const QString& key) const;
     void store(const QString& key, const QVariant& value);
-    void logStatus(const QString& action);
+    /// Writes what is not in the file yet.
+    [[nodiscard]] QSettings::Status save() const;
+    [[nodiscard]] QString accessRefused(QLatin1StringView action) const;
 
     mutable std::mutex m_mutex;
-    QSettings m_file;
+    QString m_path;
     /// What the file holds or, where it could not be written, should hold: reads come from here.
     QHash<QString, QVariant> m_values;
+    QHash<QString, QVariant> m_unsaved;
+    bool m_failureLogged = false;
     Log& m_log;
 };
 

@@ -86,16 +86,32 @@ TEST_F(SettingsFileTest, CountsNonsenseAsAbsentAndStaysUsable)
     }
 }
 
-TEST_F(SettingsFileTest, GoesOnWithAFileThatCannotBeWritten)
+TEST_F(SettingsFileTest, GoesOnWithAFileThatCannotBeWrittenAndStoresAllOnceItCan)
 {
     QFile blocker(m_folder.filePath(u"aerolith"_s));
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     SettingsFile settings(m_path, m_log);
     m_log.take();
     settings.setDouble(7, u"scanInterval"_s);
-    EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 7.0);
-    EXPECT_EQ(m_log.take(),
-              QStringList(u"Cannot write the settings file %1: access refused or disk full"_s.arg(m_path)));
+    settings.setDouble(8, u"scanInterval"_s);
+    settings.setInteger(30, u"historyLimit"_s);
+    EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 8.0);
+    const QStringList refusal{
+        u"Cannot write the settings file %1: access refused or disk full"_s.arg(m_path)};
+    EXPECT_EQ(m_log.take(), refusal) << "once, not at every step of a slider";
+
+    ASSERT_TRUE(blocker.remove());
+    settings.setData("[]", u"hiddenBSSIDs"_s);
+    EXPECT_EQ(m_log.take(), QStringList());
+    const SettingsFile reread(m_path, m_log);
+    EXPECT_EQ(reread.doubleForKey(u"scanInterval"_s), 8.0);
+    EXPECT_EQ(reread.integerForKey(u"historyLimit"_s), 30);
+    EXPECT_EQ(reread.dataForKey(u"hiddenBSSIDs"_s), QByteArray("[]"));
+
+    ASSERT_TRUE(QDir(m_folder.filePath(u"aerolith"_s)).removeRecursively());
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    settings.setDouble(9, u"scanInterval"_s);
+    EXPECT_EQ(m_log.take(), refusal) << "a new outage";
 }
 
 TEST_F(SettingsFileTest, LivesWhereTheDesktopKeepsSettings)
