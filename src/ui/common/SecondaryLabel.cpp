@@ -1,7 +1,5 @@
 #include "ui/common/SecondaryLabel.h"
 
-#include "ui/common/Theme.h"
-
 #include <QPainter>
 
 namespace aerolith {
@@ -10,6 +8,12 @@ SecondaryLabel::SecondaryLabel(int pixelSize, QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setFont(Theme::font(font(), pixelSize));
+}
+
+SecondaryLabel::SecondaryLabel(TextStyle style, QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setFont(Theme::font(font(), style));
 }
 
 void SecondaryLabel::paintEvent(QPaintEvent*)

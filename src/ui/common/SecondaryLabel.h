@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/common/Theme.h"
+
 #include <QLabel>
 
 namespace aerolith {
@@ -10,6 +12,8 @@ class SecondaryLabel : public QLabel
 public:
     /// Text size in device-independent pixels.
     explicit SecondaryLabel(int pixelSize, QWidget* parent = nullptr);
+
+    explicit SecondaryLabel(TextStyle style, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
