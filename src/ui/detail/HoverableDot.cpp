@@ -1,0 +1,79 @@
+#include "ui/detail/HoverableDot.h"
+
+#include "ui/common/Theme.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double boxDistance = 50;
+constexpr double boxPadding = 6;
+constexpr double boxRadius = 4;
+constexpr double boxOpacity = 0.8;
+constexpr double lineSpacing = 8;
+
+QRectF centredOn(const QPointF& centre, const QSizeF& size)
+{
+    return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
+} // namespace
+
+QRectF HoverableDot::square() const
+{
+    const double diameter = 2 * dotRadius * (1 + growth);
+    return centredOn(position, {diameter, diameter});
+}
+
+QStringList HoverableDot::readOut() const
+{
+    return {u"RSSI: %1 dBm"_s.arg(data.rssi), u"Noise: %1 dBm"_s.arg(data.noise)};
+}
+
+QRectF HoverableDot::readOutBox(const QFont& font) const
+{
+    const QFontMetricsF metrics(Theme::font(font, TextStyle::caption));
+    const QStringList lines = readOut();
+    const double width = std::max(metrics.horizontalAdvance(lines[0]), metrics.horizontalAdvance(lines[1]));
+    const double height = 2 * metrics.height() + lineSpacing;
+    const bool isNearRightEdge = position.x() > totalWidth - 100;
+    return centredOn(position + QPointF(isNearRightEdge ? -boxDistance : boxDistance, 0),
+                     {width + 2 * boxPadding, height + 2 * boxPadding});
+}
+
+void HoverableDot::paintDot(QPainter& painter, const QPalette& palette) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Theme::green(palette));
+    painter.drawEllipse(square());
+}
+
+void HoverableDot::paintReadOut(QPainter& painter, const QFont& font) const
+{
+    if (growth <= 0) {
+        return;
+    }
+    const QRectF box = readOutBox(font);
+    const QRectF text = box.adjusted(0, boxPadding, 0, -boxPadding);
+    const QStringList lines = readOut();
+    painter.save();
+    painter.setOpacity(growth);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Theme::withOpacity(Qt::black, boxOpacity));
+    painter.drawRoundedRect(box, boxRadius, boxRadius);
+    painter.setPen(Qt::white);
+    painter.setFont(Theme::font(font, TextStyle::caption));
+    painter.drawText(text, Qt::AlignHCenter | Qt::AlignTop, lines[0]);
+    painter.drawText(text, Qt::AlignHCenter | Qt::AlignBottom, lines[1]);
+    painter.restore();
+}
+
+} // namespace aerolith

@@ -1,0 +1,248 @@
+#include "ui/detail/CustomSignalChart.h"
+
+#include "support/Printing.h"
+#include "ui/common/Theme.h"
+#include "ui/detail/SampleHistory.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int margin = 30;
+constexpr int width = 600;
+constexpr SignalChartParameters full{
+    .showMiniVersion = false, .showNoiseLevel = true, .animate = false, .lineWidth = 2.5, .areaOpacity = 0.5};
+
+/// A chart 600 wide in a window of its own, with room around it.
+class CustomSignalChartTest : public testing::Test
+{
+protected:
+    void show(const SignalHistoryList& history, const SignalChartParameters& parameters = full)
+    {
+        chart = std::make_unique<CustomSignalChart>(parameters);
+        chart->setContentsMargins(margin, margin, margin, margin);
+        chart->resize(width + 2 * margin, chart->sizeHint().height());
+        chart->showHistory(history);
+        chart->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(chart.get()));
+        QCoreApplication::processEvents();
+    }
+
+    /// Takes running animations to that moment and lets them stand there; at its end one is over.
+    void advance(const QString& name, int milliseconds) const
+    {
+        for (auto* animation : chart->findChildren<QVariantAnimation*>(name)) {
+            animation->pause();
+            const bool isForward = animation->direction() == QVariantAnimation::Forward;
+            animation->setCurrentTime(isForward ? milliseconds : animation->duration() - milliseconds);
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    bool isAnimating() const
+    {
+        QCoreApplication::processEvents();
+        const auto animations = chart->findChildren<QVariantAnimation*>();
+        return std::any_of(animations.cbegin(), animations.cend(), [](const QVariantAnimation* animation) {
+            return animation->state() != QVariantAnimation::Stopped;
+        });
+    }
+
+    void point(QPoint position) const
+    {
+        QTest::mouseMove(chart.get(), QPoint(margin, margin) + position);
+        QCoreApplication::processEvents();
+    }
+
+    QImage grab() const { return chart->grab().toImage(); }
+
+    /// How far a dot reaches upwards from its centre.
+    int radius(QPoint centre) const
+    {
+        const QImage image = grab();
+        int pixels = 0;
+        while (image.pixelColor(QPoint(margin, margin - pixels) + centre) == green) {
+            ++pixels;
+        }
+        return pixels;
+    }
+
+    QColor pixel(QPoint position) const { return grab().pixelColor(QPoint(margin, margin) + position); }
+
+    const QColor green = Theme::green(QApplication::palette());
+    std::unique_ptr<CustomSignalChart> chart;
+};
+
+} // namespace
+
+TEST_F(CustomSignalChartTest, DrawsTheSignalLineOnceWhenItIsFirstSeen)
+{
+    SignalChartParameters animated = full;
+    animated.animate = true;
+    show(history({-60, -60}), animated);
+    EXPECT_TRUE(isAnimating());
+    advance(u"drawing"_s, 750);
+    EXPECT_EQ(pixel({280, 125}), green);
+    EXPECT_NE(pixel({320, 125}), green) << "only half of it is drawn";
+    EXPECT_EQ(pixel({598, 125}), green) << "the dot";
+
+    chart->hide();
+    EXPECT_FALSE(isAnimating());
+    chart->show();
+    EXPECT_EQ(pixel({450, 125}), green) << "whole";
+    chart->showHistory(history({-60, -60, -60}));
+    EXPECT_FALSE(isAnimating());
+
+    chart->startOver();
+    EXPECT_TRUE(isAnimating());
+    advance(u"drawing"_s, 1500);
+    EXPECT_EQ(pixel({450, 125}), green);
+    EXPECT_FALSE(isAnimating());
+
+    show(history({-60, -60}));
+    EXPECT_FALSE(isAnimating());
+    EXPECT_EQ(pixel({450, 125}), green) << "whole at once where it is not animated";
+}
+
+TEST_F(CustomSignalChartTest, EnlargesTheDotThatThePointerRestsOn)
+{
+    // The middle one on a peak: nothing else green above it.
+    const SignalHistoryList samples = history({-100, -40, -100});
+    show(samples);
+    const QPoint dot(300, 250 * 5 / 70);
+    const QPoint left = dot - QPoint(5, 0);
+    point(left);
+    EXPECT_FALSE(chart->hoveredPointId().has_value()) << "beside the dot at rest";
+    point(dot);
+    EXPECT_EQ(chart->hoveredPointId(), samples[1].id);
+    EXPECT_TRUE(isAnimating());
+    advance(u"dotGrowth"_s, 100);
+    point(left);
+    EXPECT_FALSE(chart->hoveredPointId().has_value()) << "half-way it reaches 4.5 to the left";
+    advance(u"dotGrowth"_s, 150);
+    EXPECT_LE(radius(dot), 4) << "shrinking again";
+
+    point(dot);
+    advance(u"dotGrowth"_s, 200);
+    EXPECT_FALSE(isAnimating());
+    const int enlarged = radius(dot);
+    point(left);
+    EXPECT_EQ(chart->hoveredPointId(), samples[1].id) << "on the enlarged dot";
+    point(dot - QPoint(8, 0));
+    EXPECT_FALSE(chart->hoveredPointId().has_value());
+    advance(u"dotGrowth"_s, 200);
+    EXPECT_FALSE(isAnimating());
+    EXPECT_GE(enlarged, radius(dot) + 3);
+}
+
+TEST_F(CustomSignalChartTest, ReadsOutPastItsEdges)
+{
+    show(history({-40, -100, -100, -40}));
+    const QImage before = grab();
+    point({0, 250 * 5 / 70});
+    advance(u"dotGrowth"_s, 200);
+    const QImage after = grab();
+    const QPoint aboveTop(margin + 50, margin - 2);
+    EXPECT_GT(before.pixelColor(aboveTop).lightness(), 200);
+    EXPECT_LT(after.pixelColor(aboveTop).lightness(), 100);
+    point({600, 250 * 5 / 70});
+    advance(u"dotGrowth"_s, 200);
+    EXPECT_LT(grab().pixelColor(margin + 550, margin - 2).lightness(), 100) << "to the left of the last";
+}
+
+TEST_F(CustomSignalChartTest, KeepsTheHoveredSampleWhileTheHistoryGoesOn)
+{
+    SignalHistoryList samples = history({-60, -60, -60});
+    show(samples);
+    point({300, 125});
+    const QUuid hovered = samples[1].id;
+    EXPECT_EQ(chart->hoveredPointId(), hovered);
+    samples = samples.appended({QUuid::createUuid(), {}, -60, -90}, 3);
+    chart->showHistory(samples);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(chart->hoveredPointId(), hovered);
+    chart->showHistory(history({-60}));
+    EXPECT_FALSE(grab().isNull()) << "one that is gone highlights nothing";
+
+    chart->startOver();
+    EXPECT_FALSE(chart->hoveredPointId().has_value());
+    EXPECT_FALSE(isAnimating());
+}
+
+TEST_F(CustomSignalChartTest, GoesFromSampleToSampleByKeys)
+{
+    const SignalHistoryList samples = history({-61, -62, -63});
+    show(samples);
+    chart->clearFocus();
+
+    struct
+    {
+        Qt::Key key;
+        qsizetype shown;
+    } const steps[] = {{Qt::Key_Tab, 2},  {Qt::Key_Left, 1}, {Qt::Key_Home, 0},
+                       {Qt::Key_Left, 0}, {Qt::Key_End, 2},  {Qt::Key_Right, 2}};
+
+    for (const auto& [key, shown] : steps) {
+        if (key == Qt::Key_Tab) {
+            chart->setFocus(Qt::TabFocusReason);
+        } else {
+            QTest::keyClick(chart.get(), key);
+        }
+        EXPECT_EQ(chart->hoveredPointId(), samples[shown].id) << key;
+    }
+    EXPECT_EQ(chart->accessibleName(), u"Signal History, RSSI: -63 dBm, Noise: -90 dBm"_s);
+    chart->clearFocus();
+    EXPECT_FALSE(chart->hoveredPointId().has_value());
+    EXPECT_EQ(chart->accessibleName(), u"Signal History"_s);
+
+    show({});
+    chart->clearFocus();
+    chart->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(chart.get(), Qt::Key_Left);
+    EXPECT_FALSE(chart->hoveredPointId().has_value());
+}
+
+TEST_F(CustomSignalChartTest, ShowsTheSignalAloneInTheCompactForm)
+{
+    const SignalHistoryList samples = history({-100, -50});
+    SignalChartParameters compact = full;
+    compact.showMiniVersion = true;
+    show(samples, compact);
+    EXPECT_EQ(chart->sizeHint().height() - 2 * margin, 50);
+    chart->resize(chart->width(), 20 + 2 * margin);
+    const QImage withNoise = grab();
+    point({600, 2});
+    EXPECT_FALSE(chart->hoveredPointId().has_value());
+    EXPECT_FALSE(withNoise.pixelColor(margin + 100, margin + 17).red() >
+                 withNoise.pixelColor(margin + 100, margin + 17).green());
+
+    compact.showNoiseLevel = false;
+    show(samples, compact);
+    chart->resize(chart->width(), 20 + 2 * margin);
+    EXPECT_EQ(grab(), withNoise);
+}
+
+TEST_F(CustomSignalChartTest, DrawsAnyStrength)
+{
+    constexpr qint64 least = std::numeric_limits<qint32>::min();
+    constexpr qint64 most = std::numeric_limits<qint32>::max();
+    for (const auto& samples : {history({least, most, least}, most), history({-50, -50}, least),
+                                history({-50, -50}, most), history({-50}), history({})}) {
+        show(samples);
+        point({300, 125});
+        EXPECT_FALSE(grab().isNull());
+    }
+}
+
+} // namespace aerolith
