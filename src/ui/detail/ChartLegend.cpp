@@ -1,0 +1,63 @@
+#include "ui/detail/ChartLegend.h"
+
+#include "ui/common/SecondaryLabel.h"
+#include "ui/common/Theme.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int dotSize = 8;
+
+/// A filled circle in the colour of a line.
+class LegendDot : public QWidget
+{
+public:
+    using ColorIn = QColor (*)(const QPalette& palette);
+
+    explicit LegendDot(ColorIn color) : m_color(color) { setFixedSize(dotSize, dotSize); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_color(palette()));
+        painter.drawEllipse(rect());
+    }
+
+private:
+    ColorIn m_color;
+};
+
+QLabel* makeCaption(const QString& text)
+{
+    auto* caption = new QLabel(text);
+    caption->setTextFormat(Qt::PlainText);
+    caption->setFont(Theme::font(caption->font(), TextStyle::caption));
+    return caption;
+}
+
+} // namespace
+
+ChartLegend::ChartLegend(QWidget* parent) : QWidget(parent)
+{
+    auto* title = new SecondaryLabel(TextStyle::subheadline);
+    title->setText(u"Signal History"_s);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins({});
+    row->addWidget(title);
+    row->addStretch();
+    row->addWidget(new LegendDot(Theme::green));
+    row->addWidget(makeCaption(u"Signal"_s));
+    row->addWidget(new LegendDot(Theme::red));
+    row->addWidget(makeCaption(u"Noise"_s));
+}
+
+} // namespace aerolith

@@ -1,0 +1,138 @@
+#include "ui/detail/NetworkDetailView.h"
+
+#include "support/Engine.h"
+#include "support/Printing.h"
+#include "ui/SavedFiles.h"
+#include "ui/detail/CustomSignalChart.h"
+
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The details of the first access point that the scanner lists.
+class NetworkDetailViewTest : public testing::Test
+{
+protected:
+    NetworkDetailViewTest()
+    {
+        auto* column = new QVBoxLayout(&window);
+        column->addWidget(&view);
+        window.resize(500, 500);
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        scan(network(u"a"_s, u"Cafe"_s));
+    }
+
+    void scan(const CWNetwork& result)
+    {
+        engine.scanner->clearNetworks();
+        engine.cycle({result});
+        publish();
+    }
+
+    void publish()
+    {
+        view.showNetwork(engine.scanner->networks().first());
+        QCoreApplication::processEvents();
+    }
+
+    QLineEdit& value(const QString& name) { return *view.findChild<QLineEdit*>(name + u"Value"_s); }
+
+    bool isDrawing() { return view.findChild<QVariantAnimation*>(u"drawing"_s)->state() != 0; }
+
+    Engine engine;
+    DateTexts texts{UserLocale()};
+    SavedFiles files;
+    QWidget window;
+    NetworkDetailView view{*engine.scanner, {engine.main, texts, files.exporter}};
+    CustomSignalChart& chart = *view.findChild<CustomSignalChart*>();
+};
+
+} // namespace
+
+TEST_F(NetworkDetailViewTest, ChangesTextsInPlace)
+{
+    const QWidgetList before = view.findChildren<QWidget*>();
+    value(u"ssid"_s).setSelection(0, 2);
+    engine.cycle({network(u"a"_s, u"Cafe"_s, -71)});
+    publish();
+    EXPECT_EQ(value(u"currentRssi"_s).text(), u"-71 dBm"_s);
+    EXPECT_EQ(value(u"ssid"_s).selectedText(), u"Ca"_s);
+    EXPECT_EQ(view.findChildren<QWidget*>(), before);
+    EXPECT_EQ(chart.accessibleDescription(),
+              u"\u2068Cafe\u2069, latest -71 dBm, lowest -71 dBm, highest -50 dBm, 2 samples"_s);
+
+    CWNetwork german = network(u"a"_s, u"Cafe"_s);
+    german.countryCode = u"DE"_s;
+    scan(german);
+    EXPECT_EQ(value(u"country"_s).text(), u"DE"_s);
+    EXPECT_TRUE(value(u"country"_s).isVisible());
+    scan(network(u"a"_s, u"Cafe"_s));
+    EXPECT_FALSE(value(u"country"_s).isVisible());
+}
+
+TEST_F(NetworkDetailViewTest, BeginsAnotherChartForAnotherAccessPointOnly)
+{
+    EXPECT_TRUE(isDrawing());
+    view.findChild<QVariantAnimation*>(u"drawing"_s)->setCurrentTime(1500);
+    EXPECT_FALSE(isDrawing());
+    engine.runCycle();
+    publish();
+    EXPECT_FALSE(isDrawing()) << "the same";
+    window.hide();
+    window.show();
+    publish();
+    EXPECT_FALSE(isDrawing()) << "the same in a window that was hidden";
+
+    scan(network(u"b"_s, u"Cafe"_s));
+    EXPECT_TRUE(isDrawing());
+    view.hide();
+    EXPECT_FALSE(isDrawing());
+    view.show();
+    publish();
+    EXPECT_TRUE(isDrawing()) << "chosen once more";
+}
+
+TEST_F(NetworkDetailViewTest, ShowsNamesAsTheyAre)
+{
+    scan(network(u"c"_s, u"<b>&x</b> %s\n\u202E[*]"_s));
+    EXPECT_EQ(value(u"ssid"_s).text(), u"<b>&x</b> %s\uFFFD\uFFFD[*]"_s);
+    const int width = view.findChild<QScrollArea*>()->widget()->minimumSizeHint().width();
+    EXPECT_EQ(view.windowTitle(), u"<b>&x</b> %s\uFFFD\uFFFD[*][*]"_s) << "what a window shows as one [*]";
+    scan(network(u"d"_s, QString(10, QChar(0xFDFD))));
+    EXPECT_EQ(view.findChild<QScrollArea*>()->widget()->minimumSizeHint().width(), width);
+}
+
+TEST_F(NetworkDetailViewTest, ExplainsAFactOverItsSymbolOnly)
+{
+    auto& symbol = *view.findChild<QWidget*>(u"snrSymbol"_s);
+    EXPECT_EQ(symbol.toolTip(), u"Signal-to-Noise Ratio - higher values mean better signal quality"_s);
+    EXPECT_EQ(symbol.size(), QSize(10, 10));
+    for (const QWidget* other : {view.findChild<QWidget*>(u"snrLabel"_s),
+                                 static_cast<QWidget*>(&value(u"snr"_s)), symbol.parentWidget()}) {
+        EXPECT_TRUE(other->toolTip().isEmpty());
+    }
+}
+
+TEST_F(NetworkDetailViewTest, ScrollsByKeys)
+{
+    auto& area = *view.findChild<QScrollArea*>();
+    QTest::keyClick(&area, Qt::Key_PageDown);
+    const int page = area.verticalScrollBar()->value();
+    EXPECT_GT(page, 0);
+    QTest::keyClick(&value(u"ssid"_s), Qt::Key_PageUp);
+    EXPECT_LT(area.verticalScrollBar()->value(), page) << "also from within";
+}
+
+} // namespace aerolith
