@@ -1,29 +1,24 @@
 #pragma once
 
-#include <QBasicTimer>
+#include "ui/common/VisibleClock.h"
+
 #include <QWidget>
 
 namespace aerolith {
 
-/// Says that something is under way, for how long nobody knows. Stands still while it cannot be seen, and
-/// where the user's style has no animations.
+/// Says that something is under way, for how long nobody knows. Turns only while it can be seen.
 class Spinner : public QWidget
 {
 public:
     explicit Spinner(QWidget* parent = nullptr);
 
-    [[nodiscard]] bool isTurning() const { return m_timer.isActive(); }
+    [[nodiscard]] bool isTurning() const { return m_clock.isRunning(); }
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QBasicTimer m_timer;
-    /// The spoke that is drawn darkest.
-    int m_head = 0;
+    VisibleClock m_clock;
 };
 
 } // namespace aerolith

@@ -9,18 +9,11 @@
 
 namespace aerolith {
 
-namespace {
-
-/// Slow movements look smooth at thirty frames a second, for half the work of sixty.
-constexpr std::chrono::milliseconds frameInterval{33};
-
-} // namespace
-
-VisibleClock::VisibleClock(QWidget& widget, std::function<void()> frame)
+VisibleClock::VisibleClock(QWidget& widget, std::function<void()> frame, std::chrono::milliseconds interval)
     : m_widget(widget), m_isShown(widget.isVisible())
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    m_timer.setInterval(frameInterval);
+    m_timer.setInterval(interval);
     m_timer.callOnTimeout(this, std::move(frame));
     widget.installEventFilter(this);
     if (m_isShown) {

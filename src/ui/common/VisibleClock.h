@@ -20,8 +20,11 @@ namespace aerolith {
 class VisibleClock : public QObject
 {
 public:
+    /// Slow movements look smooth at thirty frames a second, for half the work of sixty.
+    static constexpr std::chrono::milliseconds smooth{33};
+
     /// `frame` runs whenever the time has moved. The widget outlives this object, or owns it.
-    VisibleClock(QWidget& widget, std::function<void()> frame);
+    VisibleClock(QWidget& widget, std::function<void()> frame, std::chrono::milliseconds interval = smooth);
 
     /// How long the widget has been seen since it was shown.
     [[nodiscard]] Seconds time() const;

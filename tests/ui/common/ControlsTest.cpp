@@ -49,6 +49,7 @@ TEST(Spinner, TurnsOnlyWhileItIsShown)
     Spinner spinner;
     EXPECT_FALSE(spinner.isTurning());
     spinner.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&spinner));
     EXPECT_TRUE(spinner.isTurning());
     const QImage first = spinner.grab().toImage();
     EXPECT_TRUE(QTest::qWaitFor([&] { return spinner.grab().toImage() != first; }, 2000));
