@@ -5,7 +5,11 @@ namespace aerolith {
 AerolithApp::AerolithApp(const Surroundings& surroundings)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
-    , m_mainWindow(m_scanner, surroundings.userDefaults)
+    , m_dateTexts(surroundings.locale)
+    , m_exporter(surroundings.log)
+    , m_mainWindow(m_scanner,
+                   {.userDefaults = surroundings.userDefaults,
+                    .detail = {.clock = surroundings.clock, .texts = m_dateTexts, .exporter = m_exporter}})
 {
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DateTexts.h"
 #include "model/SelectionStore.h"
 #include "model/WiFiScanner.h"
 #include "ui/main/MainWindow.h"
@@ -18,6 +19,8 @@ public:
 private:
     SelectionStore m_selectionStore;
     WiFiScanner m_scanner;
+    DateTexts m_dateTexts;
+    FileExporter m_exporter;
     MainWindow m_mainWindow;
 };
 

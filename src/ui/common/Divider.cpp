@@ -24,7 +24,13 @@ Divider::Divider(Qt::Orientation orientation, QWidget* parent) : QWidget(parent)
 
 void Divider::paintEvent(QPaintEvent*)
 {
-    QPainter(this).fillRect(rect(), Theme::withOpacity(Theme::gray(), opacity));
+    QPainter painter(this);
+    paint(painter, rect());
+}
+
+void Divider::paint(QPainter& painter, const QRect& rect)
+{
+    painter.fillRect(rect, Theme::withOpacity(Theme::gray(), opacity));
 }
 
 } // namespace aerolith

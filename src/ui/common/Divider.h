@@ -10,6 +10,9 @@ class Divider : public QWidget
 public:
     explicit Divider(Qt::Orientation orientation, QWidget* parent = nullptr);
 
+    /// For a view that has a place of its own for it.
+    static void paint(QPainter& painter, const QRect& rect);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

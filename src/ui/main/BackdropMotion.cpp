@@ -37,7 +37,9 @@ double thereAndBack(Seconds time, Seconds period)
 Ring ring(int index, Seconds time)
 {
     const double gone = thereAndBack(time - index * ringDelay, ringPeriod);
-    return {.diameter = 320.0 + 40 * index, .scale = 1.0 + 0.05 * index - ringShrinkage * gone, .opacity = 1 - gone};
+    return {.diameter = 320.0 + 40 * index,
+            .scale = 1.0 + 0.05 * index - ringShrinkage * gone,
+            .opacity = 1 - gone};
 }
 
 double symbolScale(Seconds time)

@@ -1,9 +1,8 @@
 #include "ui/main/MainWindow.h"
 
-#include "model/HiddenList.h"
-#include "ui/common/Theme.h"
+#include "ui/common/Divider.h"
 
-#include <QVBoxLayout>
+#include <QToolBar>
 
 namespace aerolith {
 
@@ -12,61 +11,73 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize minimumContent{800, 500};
+constexpr QSize symbolSize{18, 18};
+constexpr int separatorHeight = 16;
 
-QLabel* makeCount()
+QWidget* makeSpace()
 {
-    auto* count = new QLabel;
-    count->setObjectName(u"networkCount"_s);
-    count->setTextFormat(Qt::PlainText);
-    count->setFont(Theme::font(count->font(), 11, QFont::DemiBold));
-    count->setContentsMargins(12, 8, 12, 6);
-    return count;
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    return space;
+}
+
+QWidget* makeSeparator()
+{
+    auto* separator = new Divider(Qt::Vertical);
+    separator->setFixedHeight(separatorHeight);
+    return separator;
+}
+
+SymbolButton* makeButton(const QString& objectName, const QString& symbol, const QString& name)
+{
+    auto* button = new SymbolButton(symbol, name);
+    button->setObjectName(objectName);
+    return button;
 }
 
 } // namespace
 
-MainWindow::MainWindow(WiFiScanner& scanner, const UserDefaults& userDefaults)
-    : m_scanner(scanner)
-    , m_userDefaults(userDefaults)
-    , m_count(makeCount())
-    , m_list(new NetworkListView)
-    , m_publish([this] { showNetworks(); })
+MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundings)
+    : m_content(new ContentView(scanner, surroundings))
+    , m_sidebarButton(makeButton(u"toggleSidebar"_s, u"sidebar.left"_s, {}))
 {
     setObjectName(u"mainWindow"_s);
-    setWindowTitle(u"Aerolith"_s);
-    setMinimumSize(minimumContent);
+    m_content->setObjectName(u"content"_s);
+    m_content->setMinimumSize(minimumContent);
+    addToolBar();
+    setCentralWidget(m_content);
+    m_content->focusList();
 
-    m_list->setObjectName(u"networkList"_s);
-    m_list->setAccessibleName(u"Networks"_s);
-    auto* content = new QWidget;
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(m_count);
-    column->addWidget(m_list);
-    setCentralWidget(content);
-    m_list->setFocus();
-
-    connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
-    connect(&m_scanner.selectionStore(), &SelectionStore::selectedBSSIDChanged, this,
-            &MainWindow::showSelected);
-    connect(m_list, &NetworkListView::chosen, this,
-            [this](const WiFiNetwork& network) { m_scanner.selectionStore().select(network); });
-    showNetworks();
-    showSelected();
+    connect(m_sidebarButton, &SymbolButton::clicked, this, &MainWindow::toggleSidebar);
+    connect(m_content, &ContentView::titleChanged, this, &MainWindow::setWindowTitle);
+    nameSidebarButton();
+    setWindowTitle(m_content->title());
 }
 
-void MainWindow::showNetworks()
+void MainWindow::addToolBar()
 {
-    const QStringList hidden = loadHiddenBSSIDs(m_userDefaults);
-    m_count->setText(u"%1 Networks"_s.arg(m_scanner.networks().size()));
-    m_list->showNetworks(
-        {.networks = m_scanner.networks(), .hidden = QSet<QString>(hidden.cbegin(), hidden.cend())});
+    auto* toolBar = new QToolBar;
+    toolBar->setObjectName(u"toolBar"_s);
+    toolBar->setMovable(false);
+    toolBar->setIconSize(symbolSize);
+    toolBar->toggleViewAction()->setVisible(false);
+    toolBar->addWidget(m_sidebarButton);
+    toolBar->addWidget(makeSpace());
+    toolBar->addWidget(makeButton(u"settings"_s, u"gear"_s, u"Settings"_s));
+    toolBar->addWidget(makeSeparator());
+    toolBar->addWidget(makeButton(u"networkInfo"_s, u"info.circle"_s, u"Wi-Fi interface information"_s));
+    QMainWindow::addToolBar(toolBar);
 }
 
-void MainWindow::showSelected()
+void MainWindow::toggleSidebar()
 {
-    m_list->showSelected(m_scanner.selectionStore().selectedBSSID().value_or(QString()));
+    m_content->setSidebarShown(!m_content->isSidebarShown());
+    nameSidebarButton();
+}
+
+void MainWindow::nameSidebarButton()
+{
+    m_sidebarButton->setAccessibleName(m_content->isSidebarShown() ? u"Hide sidebar"_s : u"Show sidebar"_s);
 }
 
 } // namespace aerolith

@@ -1,33 +1,28 @@
 #pragma once
 
-#include "model/WiFiScanner.h"
-#include "platform/UserDefaults.h"
-#include "ui/common/OncePerTurn.h"
-#include "ui/main/NetworkListView.h"
+#include "ui/common/SymbolButton.h"
+#include "ui/main/ContentView.h"
 
-#include <QLabel>
 #include <QMainWindow>
 
 namespace aerolith {
 
-/// The main window: the scanner's published list, with the selection that the whole program shares.
+/// The main window: a toolbar over the content, named after the access point that is shown.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Both outlive the window.
-    MainWindow(WiFiScanner& scanner, const UserDefaults& userDefaults);
+    /// The scanner outlives the window.
+    MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundings);
 
 private:
-    void showNetworks();
-    void showSelected();
+    void addToolBar();
+    void toggleSidebar();
+    void nameSidebarButton();
 
-    WiFiScanner& m_scanner;
-    const UserDefaults& m_userDefaults;
-    QLabel* m_count;
-    NetworkListView* m_list;
-    OncePerTurn m_publish;
+    ContentView* m_content;
+    SymbolButton* m_sidebarButton;
 };
 
 } // namespace aerolith

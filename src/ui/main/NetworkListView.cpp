@@ -2,13 +2,26 @@
 
 #include "ui/main/NetworkRowDelegate.h"
 
+#include <QContextMenuEvent>
 #include <QCursor>
 #include <QHoverEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 
 namespace aerolith {
+
+namespace {
+
+bool isRightButton(const QEvent* event)
+{
+    const auto* mouse = dynamic_cast<const QMouseEvent*>(event);
+    return mouse != nullptr && (mouse->button() == Qt::RightButton || mouse->buttons() == Qt::RightButton);
+}
+
+} // namespace
 
 NetworkListView::NetworkListView(QWidget* parent) : QListView(parent)
 {
@@ -79,13 +92,40 @@ void NetworkListView::updateHover()
     }
 }
 
+void NetworkListView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex row = isByKey ? currentIndex() : indexAt(event->pos());
+    if (!row.isValid()) {
+        return;
+    }
+    if (isByKey) {
+        scrollTo(row);
+    }
+    const QPoint position = isByKey ? visualRect(row).center() : event->pos();
+    Q_EMIT menuRequested(m_networks.networks()[row.row()], viewport()->mapToGlobal(position));
+}
+
+void NetworkListView::keyPressEvent(QKeyEvent* event)
+{
+    // Not every window system makes a menu request of them.
+    const bool asksForMenu = event->key() == Qt::Key_Menu ||
+                             (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (!asksForMenu) {
+        QListView::keyPressEvent(event);
+        return;
+    }
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    contextMenuEvent(&request);
+}
+
 QItemSelectionModel::SelectionFlags NetworkListView::selectionCommand(const QModelIndex& index,
                                                                       const QEvent* event) const
 {
     const auto command = QListView::selectionCommand(index, event);
-    // The user selects another access point, never none.
+    // The user selects another access point, never none, and not by asking for its menu.
     const bool deselects = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
-    return deselects ? QItemSelectionModel::NoUpdate : command;
+    return deselects || isRightButton(event) ? QItemSelectionModel::NoUpdate : command;
 }
 
 void NetworkListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

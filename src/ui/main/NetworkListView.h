@@ -26,7 +26,12 @@ Q_SIGNALS:
     /// The user has selected an access point, by pointer or keys.
     void chosen(const WiFiNetwork& network);
 
+    /// The user wants the menu of an access point, by pointer or keys: at `position` on the screen.
+    void menuRequested(const WiFiNetwork& network, const QPoint& position);
+
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                        const QEvent* event) const override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;

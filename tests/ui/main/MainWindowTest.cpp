@@ -1,20 +1,15 @@
 #include "ui/main/MainWindow.h"
 
-#include "support/Engine.h"
-#include "support/Printing.h"
+#include "export/NetworkCsv.h"
+#include "ui/main/WindowDriver.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
-#include <QListView>
-#include <QScrollBar>
-#include <QSet>
-#include <QSignalSpy>
-#include <QStyledItemDelegate>
-#include <QTest>
+#include <QMenu>
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace aerolith {
 
@@ -22,227 +17,186 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Access points "00" to "99", the strongest first.
-QList<CWNetwork> hundred()
-{
-    QList<CWNetwork> results;
-    for (int i = 0; i < 100; ++i) {
-        results.append(network(u"%1"_s.arg(i, 2, 10, QChar(u'0')), u"net %1"_s.arg(i), -i));
-    }
-    return results;
-}
-
-/// Tells which rows are painted as hovered.
-class HoverRecorder : public QStyledItemDelegate
-{
-public:
-    void paint(QPainter*, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        if (option.state.testFlag(QStyle::State_MouseOver)) {
-            hovered.insert(index.row());
-        }
-    }
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
-    {
-        return {1, 40};
-    }
-
-    mutable QSet<int> hovered;
-};
-
-/// The main window on an engine that the test drives.
-class MainWindowTest : public testing::Test
+class MainWindowTest : public WindowDriver
 {
 protected:
-    MainWindowTest()
+    MainWindowTest() { scan(air); }
+
+    /// The open menu of a row.
+    QMenu* menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+    /// The entries of the row's menu, which is then closed.
+    QStringList entries()
     {
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        scan(hundred());
+        QStringList titles;
+        if (menu() != nullptr) {
+            for (const QAction* action : menu()->actions()) {
+                titles.append(action->text());
+            }
+            menu()->close();
+        }
+        return titles;
     }
 
-    void scan(const QList<CWNetwork>& results)
+    void askForMenu(const QString& bssid)
     {
-        engine.cycle(results);
-        QCoreApplication::processEvents();
+        const QPoint position = middleOf(rowOf(bssid));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position, list.viewport()->mapToGlobal(position));
+        QCoreApplication::sendEvent(list.viewport(), &event);
     }
 
-    /// Lets what the user did take effect.
-    void settle()
+    /// Chooses the only entry of the open menu by the keyboard.
+    void choose()
     {
-        engine.main.drain();
-        QCoreApplication::processEvents();
-    }
-
-    template <typename Widget>
-    Widget& child(const QString& name)
-    {
-        auto* found = window.findChild<Widget*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return *found;
-    }
-
-    /// The row that shows this access point; below 0 when none does.
-    int rowOf(const QString& bssid) const { return static_cast<int>(engine.listedBSSIDs().indexOf(bssid)); }
-
-    QPoint middleOf(int row) const { return list.visualRect(list.model()->index(row, 0)).center(); }
-
-    void click(const QString& bssid, Qt::KeyboardModifiers modifiers = {})
-    {
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, middleOf(rowOf(bssid)));
+        QTest::keyClick(menu(), Qt::Key_Down);
+        QTest::keyClick(menu(), Qt::Key_Return);
         settle();
     }
 
-    /// The highlighted rows.
-    QList<int> highlighted() const
-    {
-        QList<int> rows;
-        for (const QModelIndex& index : list.selectionModel()->selectedIndexes()) {
-            rows.append(index.row());
-        }
-        return rows;
-    }
+    bool showsBackdrop() { return child(u"backdrop"_s).isVisible(); }
 
-    Engine engine;
-    MainWindow window{*engine.scanner, engine.defaults};
-    QListView& list = child<QListView>(u"networkList"_s);
+    QString count() { return child<QLabel>(u"networkCount"_s).text(); }
+
+    QList<CWNetwork> air{network(u"a"_s, u"Alpha"_s, -70), network(u"b"_s, u"beta"_s, -40),
+                         network(u"c"_s, u"Cafe [*] & <b>Bar</b>\n"_s, -50)};
 };
 
 } // namespace
 
 TEST_F(MainWindowTest, ListsWhatTheScannerPublishes)
 {
-    EXPECT_EQ(window.windowTitle(), u"Aerolith"_s);
-    EXPECT_EQ(list.model()->rowCount(), 100);
-    EXPECT_EQ(child<QLabel>(u"networkCount"_s).text(), u"100 Networks"_s);
+    EXPECT_EQ(list.model()->rowCount(), 3);
+    EXPECT_EQ(count(), u"3 Networks"_s);
     EXPECT_TRUE(highlighted().isEmpty());
-
-    engine.scanner->clearNetworks();
-    settle();
-    EXPECT_EQ(list.model()->rowCount(), 0);
-    EXPECT_EQ(child<QLabel>(u"networkCount"_s).text(), u"0 Networks"_s);
+    press(u"clearList"_s);
+    EXPECT_EQ(count(), u"0 Networks"_s);
+    EXPECT_TRUE(showsBackdrop());
 
     window.resize(10, 10);
-    EXPECT_EQ(window.size(), QSize(800, 500));
+    EXPECT_EQ(window.centralWidget()->size(), QSize(800, 500));
 }
 
-TEST_F(MainWindowTest, SelectsByMouseAndKeys)
+TEST_F(MainWindowTest, ShowsTheDetailsOfTheSelectedNetworkWhileItIsListed)
 {
-    click(u"03"_s);
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
-    QTest::keyClick(&list, Qt::Key_Down);
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s) << "not before the next turn";
-    settle();
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"04"_s);
-    QTest::keyClick(&list, Qt::Key_End);
-    settle();
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"99"_s);
-}
+    EXPECT_TRUE(showsBackdrop());
+    EXPECT_EQ(window.windowTitle(), u"Aerolith"_s);
+    click(u"c"_s);
+    EXPECT_FALSE(showsBackdrop());
+    EXPECT_TRUE(child(u"networkDetailView"_s).isVisible());
+    EXPECT_EQ(window.windowTitle(), u"Cafe [*][*] & <b>Bar</b>\uFFFD"_s) << "shown as \"[*]\"";
 
-TEST_F(MainWindowTest, NeverDeselectsAtTheUsersHand)
-{
-    click(u"03"_s);
-    click(u"03"_s, Qt::ControlModifier);
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
-    EXPECT_EQ(highlighted(), QList<int>{3});
-
-    scan({network(u"03"_s, u"net"_s, -3)});
-    engine.scanner->clearNetworks();
-    settle();
-    scan({network(u"03"_s, u"net"_s, -3), network(u"04"_s, u"net"_s, -4)});
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(50, list.viewport()->height() - 5));
-    settle();
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
-    EXPECT_EQ(highlighted(), QList<int>{0});
-}
-
-TEST_F(MainWindowTest, FollowsTheSharedSelection)
-{
-    const QSignalSpy changes(&engine.selection, &SelectionStore::selectedBSSIDChanged);
-    engine.selection.select(engine.scanner->networks()[60]);
-    settle();
-    settle();
-    EXPECT_EQ(changes.size(), 1) << "it is not selected once more for being shown";
-    EXPECT_EQ(highlighted(), QList<int>{60});
-    EXPECT_TRUE(list.viewport()->rect().contains(middleOf(60))) << "scrolled into view";
-
-    engine.selection.clearSelection();
-    settle();
-    EXPECT_TRUE(highlighted().isEmpty());
-}
-
-TEST_F(MainWindowTest, KeepsSelectionFocusAndScrollPositionWhenAScanReorders)
-{
-    click(u"05"_s);
-    list.verticalScrollBar()->setValue(700);
-    QList<CWNetwork> results = hundred();
-    std::reverse(results.begin(), results.end());
-    for (int i = 0; i < 100; ++i) {
-        results[i].rssiValue = -i;
-    }
-    results.append(network(u"new"_s, u"new"_s, -50));
-    scan(results);
-
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"05"_s);
-    EXPECT_EQ(highlighted(), QList<int>{rowOf(u"05"_s)});
-    EXPECT_EQ(list.currentIndex().row(), rowOf(u"05"_s));
-    EXPECT_EQ(list.verticalScrollBar()->value(), 700);
-}
-
-TEST_F(MainWindowTest, KeepsTheRowBelowThePointerHovered)
-{
-    HoverRecorder recorder;
-    list.setItemDelegate(&recorder);
-    const int pointed = 4;
-    QTest::mouseMove(list.viewport(), middleOf(pointed));
-    QCoreApplication::processEvents();
-
-    QList<CWNetwork> results = hundred();
-    std::swap(results[pointed].rssiValue, results[70].rssiValue);
-    recorder.hovered.clear();
-    scan(results);
-    list.viewport()->repaint();
-    EXPECT_EQ(recorder.hovered, QSet<int>{pointed});
-}
-
-TEST_F(MainWindowTest, HighlightsTheSelectedAccessPointAgainOnceItIsListedAgain)
-{
-    click(u"03"_s);
-    list.verticalScrollBar()->setValue(700);
     engine.scanner->setShowHiddenNetworks(false);
-    engine.scanner->hideNetwork(u"03"_s);
+    engine.scanner->hideNetwork(u"c"_s);
     settle();
-    EXPECT_EQ(list.model()->rowCount(), 99);
-    EXPECT_TRUE(highlighted().isEmpty());
-    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s) << "no neighbour is selected instead";
-    EXPECT_EQ(list.currentIndex().row(), 3) << "the keyboard goes on from the same place";
+    EXPECT_TRUE(showsBackdrop());
+    EXPECT_EQ(window.windowTitle(), u"Aerolith"_s);
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"c"_s);
 
-    engine.scanner->unhideNetwork(u"03"_s);
+    press(u"filter"_s);
+    EXPECT_FALSE(showsBackdrop());
+    engine.location.change(CLAuthorizationStatus::denied);
     settle();
-    EXPECT_EQ(highlighted(), QList<int>{3});
-    EXPECT_EQ(list.verticalScrollBar()->value(), 700);
+    EXPECT_TRUE(showsBackdrop()) << "denied access clears the selection";
 }
 
-TEST_F(MainWindowTest, GivesEveryRowTheSameHeight)
+TEST_F(MainWindowTest, FiltersHiddenNetworks)
 {
-    QList<CWNetwork> hostile;
-    int index = 0;
-    for (const QString& ssid :
-         {u"plain"_s, u"one\ntwo\nthree"_s, u"<h1>Big</h1><br><br>"_s, u"\u2029\u2029"_s,
-          u"Z"_s + u"\u0336\u0353\u0489"_s.repeated(10), QString(32, u'W'), u"漢字 ﷽ 👨\u200D👩\u200D👧"_s}) {
-        hostile.append(network(u"0%1"_s.arg(++index), ssid));
-    }
-    engine.scanner->clearNetworks();
+    auto& filter = child<QAbstractButton>(u"filter"_s);
+    EXPECT_EQ(filter.text(), u"All Networks"_s);
+    engine.scanner->hideNetwork(u"b"_s);
+    filter.setFocus();
+    QTest::keyClick(&filter, Qt::Key_Space);
     settle();
-    scan(hostile);
-    ASSERT_EQ(list.model()->rowCount(), hostile.size());
-    for (int row = 1; row < hostile.size(); ++row) {
-        const QRect rect = list.visualRect(list.model()->index(row, 0));
-        EXPECT_EQ(rect.top(), list.visualRect(list.model()->index(row - 1, 0)).bottom() + 1);
-        EXPECT_EQ(rect.height(), list.visualRect(list.model()->index(0, 0)).height());
-        EXPECT_EQ(rect.width(), list.viewport()->width());
-    }
+    EXPECT_EQ(filter.text(), u"Hiding Hidden"_s);
+    EXPECT_EQ(count(), u"2 Networks"_s);
+
+    engine.scanner->setShowHiddenNetworks(true);
+    settle();
+    EXPECT_TRUE(filter.isChecked()) << "it follows the flag";
+    EXPECT_EQ(filter.text(), u"All Networks"_s);
+    EXPECT_EQ(count(), u"3 Networks"_s);
+}
+
+TEST_F(MainWindowTest, HidesAndShowsARowByItsMenu)
+{
+    click(u"a"_s);
+    askForMenu(u"b"_s);
+    EXPECT_EQ(entries(), QStringList{u"Hide Network"_s});
+    askForMenu(u"b"_s);
+    choose();
+    EXPECT_TRUE(engine.scanner->isHidden(u"b"_s));
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"a"_s);
+
+    list.setFocus();
+    list.selectionModel()->setCurrentIndex(list.model()->index(rowOf(u"b"_s), 0),
+                                           QItemSelectionModel::NoUpdate);
+    QTest::keyClick(&list, Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_NE(menu(), nullptr);
+    EXPECT_TRUE(list.visualRect(list.currentIndex())
+                    .contains(list.viewport()->mapFromGlobal(menu()->geometry().topLeft())));
+    EXPECT_EQ(entries(), QStringList{u"Show Network"_s});
+    QTest::keyClick(&list, Qt::Key_Menu);
+    choose();
+    EXPECT_FALSE(engine.scanner->isHidden(u"b"_s));
+
+    click(u"c"_s, {}, Qt::RightButton);
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"a"_s) << "asking for a menu selects nothing";
+}
+
+TEST_F(MainWindowTest, SortsByTheMenuAndTheMenuByTheScanner)
+{
+    auto& menu = child<QComboBox>(u"sortMenu"_s);
+    EXPECT_EQ(menu.currentText(), u"Signal Strength"_s);
+    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"b"_s, u"c"_s, u"a"_s}));
+    menu.setFocus();
+    QTest::keyClick(&menu, Qt::Key_Down);
+    settle();
+    EXPECT_EQ(engine.scanner->sortOption(), SortOption::ssid);
+    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"a"_s, u"b"_s, u"c"_s}));
+    scan(air);
+    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"b"_s, u"c"_s, u"a"_s})) << "in the order of the scan";
+    EXPECT_EQ(menu.currentText(), u"Network Name"_s);
+    engine.scanner->setSortOption(SortOption::security);
+    EXPECT_EQ(menu.currentText(), u"Security Type"_s);
+}
+
+TEST_F(MainWindowTest, ExportsTheListAsItIsWhenConfirmed)
+{
+    press(u"exportList"_s);
+    EXPECT_TRUE(files.suggested().endsWith(u"/wifi_networks.csv"_s));
+    scan({network(u"d"_s, u"Delta"_s, -30)});
+    EXPECT_EQ(files.confirm(), networkListCSV(engine.scanner->networks()).toUtf8());
+}
+
+TEST_F(MainWindowTest, BringsTheSidebarBackAsWideAsItWas)
+{
+    auto& sidebar = child(u"sidebar"_s);
+    child<QSplitter>(u"content"_s).setSizes({400, 400});
+    ASSERT_EQ(sidebar.width(), 400);
+    press(u"toggleSidebar"_s);
+    EXPECT_FALSE(sidebar.isVisible());
+    window.resize(1200, 700);
+    press(u"toggleSidebar"_s);
+    EXPECT_EQ(sidebar.width(), 400);
+}
+
+TEST_F(MainWindowTest, IsReachedByTheKeyboardAndNamedForAssistiveTechnology)
+{
+    click(u"a"_s);
+    QStringList reached;
+    QWidget* start = QApplication::focusWidget();
+    do {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr);
+        const auto* button = qobject_cast<QAbstractButton*>(focused);
+        const bool isNamed = !focused->accessibleName().isEmpty() || (button && !button->text().isEmpty());
+        EXPECT_TRUE(isNamed) << focused->objectName().toStdString();
+        reached.append(focused->objectName());
+        QTest::keyClick(focused, Qt::Key_Tab);
+    } while (QApplication::focusWidget() != start && reached.size() < 50);
+    EXPECT_EQ(reached, QStringList({u"networkList"_s, u"exportList"_s, u"clearList"_s, u"sortMenu"_s,
+                                    u"networkDetails"_s, u"signalChart"_s, u"exportDetails"_s, u"refresh"_s,
+                                    u"toggleSidebar"_s, u"settings"_s, u"networkInfo"_s, u"filter"_s}));
 }
 
 } // namespace aerolith

@@ -1,0 +1,111 @@
+#include "ui/main/Sidebar.h"
+
+#include "model/HiddenList.h"
+#include "ui/common/Divider.h"
+#include "ui/common/Theme.h"
+#include "ui/main/SidebarStatusBar.h"
+
+#include <QMenu>
+#include <QVBoxLayout>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QMargins headerPadding{12, 8, 12, 8};
+
+QLabel* makeCount()
+{
+    auto* count = new QLabel;
+    count->setObjectName(u"networkCount"_s);
+    count->setTextFormat(Qt::PlainText);
+    count->setFont(Theme::font(count->font(), 11, QFont::DemiBold));
+    count->setContentsMargins(12, 8, 12, 6);
+    return count;
+}
+
+} // namespace
+
+Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExporter& exporter,
+                 QWidget* parent)
+    : QWidget(parent)
+    , m_scanner(scanner)
+    , m_userDefaults(userDefaults)
+    , m_filter(new Switch)
+    , m_count(makeCount())
+    , m_list(new NetworkListView)
+    , m_publish([this] { showNetworks(); })
+{
+    // One surface with the list.
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    m_filter->setObjectName(u"filter"_s);
+    m_list->setObjectName(u"networkList"_s);
+    m_list->setAccessibleName(u"Networks"_s);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addLayout(makeHeader());
+    column->addWidget(new Divider(Qt::Horizontal));
+    column->addWidget(m_count);
+    column->addWidget(m_list);
+    column->addWidget(new SidebarStatusBar(m_scanner, exporter));
+
+    connect(m_filter, &Switch::clicked, &m_scanner, &WiFiScanner::setShowHiddenNetworks);
+    connect(m_list, &NetworkListView::chosen, this,
+            [this](const WiFiNetwork& network) { m_scanner.selectionStore().select(network); });
+    connect(m_list, &NetworkListView::menuRequested, this, &Sidebar::openMenu);
+    connect(&m_scanner, &WiFiScanner::showHiddenNetworksChanged, this, &Sidebar::showFilter);
+    connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
+    connect(&m_scanner.selectionStore(), &SelectionStore::selectedBSSIDChanged, this, &Sidebar::showSelected);
+    showFilter();
+    showNetworks();
+    showSelected();
+}
+
+QLayout* Sidebar::makeHeader()
+{
+    auto* header = new QHBoxLayout;
+    header->setContentsMargins(headerPadding);
+    header->addStretch();
+    header->addWidget(m_filter);
+    return header;
+}
+
+void Sidebar::showFilter()
+{
+    m_filter->setChecked(m_scanner.showHiddenNetworks());
+    m_filter->setText(m_scanner.showHiddenNetworks() ? u"All Networks"_s : u"Hiding Hidden"_s);
+}
+
+void Sidebar::showNetworks()
+{
+    const QStringList hidden = loadHiddenBSSIDs(m_userDefaults);
+    m_count->setText(u"%1 Networks"_s.arg(m_scanner.networks().size()));
+    m_list->showNetworks(
+        {.networks = m_scanner.networks(), .hidden = QSet<QString>(hidden.cbegin(), hidden.cend())});
+}
+
+void Sidebar::showSelected()
+{
+    m_list->showSelected(m_scanner.selectionStore().selectedBSSID().value_or(QString()));
+}
+
+void Sidebar::openMenu(const WiFiNetwork& network, const QPoint& position)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"networkMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const QString bssid = network.bssid;
+    if (m_scanner.isHidden(bssid)) {
+        menu->addAction(u"Show Network"_s, this, [this, bssid] { m_scanner.unhideNetwork(bssid); });
+    } else {
+        menu->addAction(u"Hide Network"_s, this, [this, bssid] { m_scanner.hideNetwork(bssid); });
+    }
+    menu->popup(position);
+}
+
+} // namespace aerolith

@@ -1,0 +1,79 @@
+#include "ui/main/SidebarStatusBar.h"
+
+#include "export/NetworkCsv.h"
+#include "ui/common/SymbolButton.h"
+#include "ui/common/SymbolView.h"
+
+#include <QComboBox>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int itemSpacing = 12;
+constexpr int sortMenuWidth = 180;
+constexpr int sortSymbolSize = 14;
+
+SymbolButton* makeButton(const QString& objectName, const QString& symbol, const QString& purpose)
+{
+    auto* button = new SymbolButton(symbol, purpose);
+    button->setObjectName(objectName);
+    button->setToolTip(purpose);
+    return button;
+}
+
+} // namespace
+
+SidebarStatusBar::SidebarStatusBar(WiFiScanner& scanner, FileExporter& exporter, QWidget* parent)
+    : StatusBarFrame(parent), m_scanner(scanner), m_exporter(exporter), m_sortMenu(new QComboBox)
+{
+    auto* exportButton = makeButton(u"exportList"_s, u"square.and.arrow.up"_s, u"Export network list"_s);
+    auto* clearButton = makeButton(u"clearList"_s, u"trash"_s, u"Clear network list"_s);
+    row().setSpacing(itemSpacing);
+    row().addWidget(exportButton);
+    row().addWidget(clearButton);
+    row().addStretch();
+    row().addWidget(makeSortMenu());
+
+    connect(exportButton, &SymbolButton::clicked, this, &SidebarStatusBar::exportList);
+    connect(clearButton, &SymbolButton::clicked, this, [this] { m_scanner.clearNetworks(); });
+    connect(m_sortMenu, &QComboBox::activated, this,
+            [this](int entry) { m_scanner.setSortOption(m_sortMenu->itemData(entry).value<SortOption>()); });
+    connect(&m_scanner, &WiFiScanner::sortOptionChanged, this, &SidebarStatusBar::showSortOption);
+    showSortOption();
+}
+
+/// The menu behind the symbol that stands for its title.
+QWidget* SidebarStatusBar::makeSortMenu()
+{
+    m_sortMenu->setObjectName(u"sortMenu"_s);
+    m_sortMenu->setAccessibleName(u"Sort by"_s);
+    m_sortMenu->addItem(u"Signal Strength"_s, QVariant::fromValue(SortOption::signal));
+    m_sortMenu->addItem(u"Network Name"_s, QVariant::fromValue(SortOption::ssid));
+    m_sortMenu->addItem(u"Channel"_s, QVariant::fromValue(SortOption::channel));
+    m_sortMenu->addItem(u"Security Type"_s, QVariant::fromValue(SortOption::security));
+
+    auto* menu = new QWidget;
+    menu->setFixedWidth(sortMenuWidth);
+    auto* titled = new QHBoxLayout(menu);
+    titled->setContentsMargins({});
+    titled->addWidget(
+        new SymbolView(u"arrow.up.arrow.down"_s, sortSymbolSize, SymbolView::Emphasis::secondary));
+    titled->addWidget(m_sortMenu, 1);
+    return menu;
+}
+
+void SidebarStatusBar::exportList()
+{
+    m_exporter.save(*this, u"wifi_networks.csv"_s,
+                    [this] { return CSVFile(networkListCSV(m_scanner.networks())); });
+}
+
+void SidebarStatusBar::showSortOption()
+{
+    m_sortMenu->setCurrentIndex(m_sortMenu->findData(QVariant::fromValue(m_scanner.sortOption())));
+}
+
+} // namespace aerolith

@@ -1,0 +1,176 @@
+#include "ui/main/NetworkListView.h"
+
+#include "ui/main/WindowDriver.h"
+
+#include <QScrollBar>
+#include <QSet>
+#include <QSignalSpy>
+#include <QStyledItemDelegate>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Access points "00" to "99", the strongest first.
+QList<CWNetwork> hundred()
+{
+    QList<CWNetwork> results;
+    for (int i = 0; i < 100; ++i) {
+        results.append(network(u"%1"_s.arg(i, 2, 10, QChar(u'0')), u"net %1"_s.arg(i), -i));
+    }
+    return results;
+}
+
+/// Tells which rows are painted as hovered.
+class HoverRecorder : public QStyledItemDelegate
+{
+public:
+    void paint(QPainter*, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        if (option.state.testFlag(QStyle::State_MouseOver)) {
+            hovered.insert(index.row());
+        }
+    }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        return {1, 40};
+    }
+
+    mutable QSet<int> hovered;
+};
+
+/// The list in its window.
+class NetworkListViewTest : public WindowDriver
+{
+protected:
+    NetworkListViewTest() { scan(hundred()); }
+};
+
+} // namespace
+
+TEST_F(NetworkListViewTest, SelectsByMouseAndKeys)
+{
+    click(u"03"_s);
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s) << "not before the next turn";
+    settle();
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"04"_s);
+    QTest::keyClick(&list, Qt::Key_End);
+    settle();
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"99"_s);
+}
+
+TEST_F(NetworkListViewTest, NeverDeselectsAtTheUsersHand)
+{
+    click(u"03"_s);
+    click(u"03"_s, Qt::ControlModifier);
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
+    EXPECT_EQ(highlighted(), QList<int>{3});
+
+    scan({network(u"03"_s, u"net"_s, -3)});
+    engine.scanner->clearNetworks();
+    settle();
+    scan({network(u"03"_s, u"net"_s, -3), network(u"04"_s, u"net"_s, -4)});
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(50, list.viewport()->height() - 5));
+    settle();
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s);
+    EXPECT_EQ(highlighted(), QList<int>{0});
+}
+
+TEST_F(NetworkListViewTest, FollowsTheSharedSelection)
+{
+    const QSignalSpy changes(&engine.selection, &SelectionStore::selectedBSSIDChanged);
+    engine.selection.select(engine.scanner->networks()[60]);
+    settle();
+    settle();
+    EXPECT_EQ(changes.size(), 1) << "it is not selected once more for being shown";
+    EXPECT_EQ(highlighted(), QList<int>{60});
+    EXPECT_TRUE(list.viewport()->rect().contains(middleOf(60))) << "scrolled into view";
+
+    engine.selection.clearSelection();
+    settle();
+    EXPECT_TRUE(highlighted().isEmpty());
+}
+
+TEST_F(NetworkListViewTest, KeepsSelectionFocusAndScrollPositionWhenAScanReorders)
+{
+    click(u"05"_s);
+    list.verticalScrollBar()->setValue(700);
+    QList<CWNetwork> results = hundred();
+    std::reverse(results.begin(), results.end());
+    for (int i = 0; i < 100; ++i) {
+        results[i].rssiValue = -i;
+    }
+    results.append(network(u"new"_s, u"new"_s, -50));
+    scan(results);
+
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"05"_s);
+    EXPECT_EQ(highlighted(), QList<int>{rowOf(u"05"_s)});
+    EXPECT_EQ(list.currentIndex().row(), rowOf(u"05"_s));
+    EXPECT_EQ(list.verticalScrollBar()->value(), 700);
+}
+
+TEST_F(NetworkListViewTest, KeepsTheRowBelowThePointerHovered)
+{
+    HoverRecorder recorder;
+    list.setItemDelegate(&recorder);
+    const int pointed = 4;
+    QTest::mouseMove(list.viewport(), middleOf(pointed));
+    QCoreApplication::processEvents();
+
+    QList<CWNetwork> results = hundred();
+    std::swap(results[pointed].rssiValue, results[70].rssiValue);
+    recorder.hovered.clear();
+    scan(results);
+    list.viewport()->repaint();
+    EXPECT_EQ(recorder.hovered, QSet<int>{pointed});
+}
+
+TEST_F(NetworkListViewTest, HighlightsTheSelectedAccessPointAgainOnceItIsListedAgain)
+{
+    click(u"03"_s);
+    list.verticalScrollBar()->setValue(700);
+    engine.scanner->setShowHiddenNetworks(false);
+    engine.scanner->hideNetwork(u"03"_s);
+    settle();
+    EXPECT_EQ(list.model()->rowCount(), 99);
+    EXPECT_TRUE(highlighted().isEmpty());
+    EXPECT_EQ(engine.selection.selectedBSSID(), u"03"_s) << "no neighbour is selected instead";
+    EXPECT_EQ(list.currentIndex().row(), 3) << "the keyboard goes on from the same place";
+
+    engine.scanner->unhideNetwork(u"03"_s);
+    settle();
+    EXPECT_EQ(highlighted(), QList<int>{3});
+    EXPECT_EQ(list.verticalScrollBar()->value(), 700);
+}
+
+TEST_F(NetworkListViewTest, GivesEveryRowTheSameHeight)
+{
+    QList<CWNetwork> hostile;
+    int index = 0;
+    for (const QString& ssid :
+         {u"plain"_s, u"one\ntwo\nthree"_s, u"<h1>Big</h1><br><br>"_s, u"\u2029\u2029"_s,
+          u"Z"_s + u"\u0336\u0353\u0489"_s.repeated(10), QString(32, u'W'), u"漢字 ﷽ 👨\u200D👩\u200D👧"_s}) {
+        hostile.append(network(u"0%1"_s.arg(++index), ssid));
+    }
+    engine.scanner->clearNetworks();
+    settle();
+    scan(hostile);
+    ASSERT_EQ(list.model()->rowCount(), hostile.size());
+    for (int row = 1; row < hostile.size(); ++row) {
+        const QRect rect = list.visualRect(list.model()->index(row, 0));
+        EXPECT_EQ(rect.top(), list.visualRect(list.model()->index(row - 1, 0)).bottom() + 1);
+        EXPECT_EQ(rect.height(), list.visualRect(list.model()->index(0, 0)).height());
+        EXPECT_EQ(rect.width(), list.viewport()->width());
+    }
+}
+
+} // namespace aerolith
