@@ -28,6 +28,9 @@ public:
     /// refused.
     [[nodiscard]] virtual Failure openUrl(const QUrl& url) = 0;
 
+    /// A folder that is there, by its absolute path, in the file manager.
+    [[nodiscard]] virtual Failure openFolder(const QString& path) = 0;
+
     /// In the settings program of the running desktop.
     [[nodiscard]] virtual Failure openSettings(SettingsPage page) = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/linux/xdg/SettingsCommands.h"
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -21,6 +22,12 @@ Failure startDetached(const QString& program, const QStringList& arguments)
     process.setStandardErrorFile(QProcess::nullDevice());
     return process.startDetached() ? Failure()
                                    : Error{u"%1 cannot be started: %2"_s.arg(program, process.errorString())};
+}
+
+/// What opens anything in the program that the user has chosen for it.
+QList<QStringList> openers(const QString& target)
+{
+    return {{u"xdg-open"_s, target}, {u"gio"_s, u"open"_s, target}};
 }
 
 /// Starts the first command whose program is there. `what` completes "Cannot open ...".
@@ -47,7 +54,16 @@ Failure XdgWorkspace::openUrl(const QUrl& url)
     if (!url.isValid() || !schemes.contains(url.scheme())) {
         return Error{u"Cannot open %1: not a web or mail address"_s.arg(text)};
     }
-    return startFirst(text, {{u"xdg-open"_s, text}, {u"gio"_s, u"open"_s, text}});
+    return startFirst(text, openers(text));
+}
+
+Failure XdgWorkspace::openFolder(const QString& path)
+{
+    const QFileInfo folder(path);
+    if (!folder.isAbsolute() || !folder.isDir()) {
+        return Error{u"Cannot open %1: not a folder"_s.arg(path)};
+    }
+    return startFirst(path, openers(path));
 }
 
 Failure XdgWorkspace::openSettings(SettingsPage page)

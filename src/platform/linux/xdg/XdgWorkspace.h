@@ -10,6 +10,7 @@ class XdgWorkspace : public Workspace
 {
 public:
     [[nodiscard]] Failure openUrl(const QUrl& url) override;
+    [[nodiscard]] Failure openFolder(const QString& path) override;
     [[nodiscard]] Failure openSettings(SettingsPage page) override;
 };
 

@@ -3,6 +3,7 @@
 #include "support/Printing.h"
 
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QThread>
@@ -73,6 +74,10 @@ TEST_F(XdgWorkspaceTest, StartsWhatIsThereAndDoesNotWaitForIt)
     install(u"xdg-open"_s);
     EXPECT_FALSE(workspace.openUrl(QUrl(u"mailto:help@example.org?subject=A b&body=$(date)"_s)));
     EXPECT_EQ(call(), u"xdg-open\nmailto:help@example.org?subject=A%20b&body=$(date)"_s);
+
+    ASSERT_TRUE(QDir(bin.path()).mkdir(u"my files"_s));
+    EXPECT_FALSE(workspace.openFolder(bin.filePath(u"my files"_s)));
+    EXPECT_EQ(call(), u"xdg-open\n%1"_s.arg(bin.filePath(u"my files"_s)));
     EXPECT_FALSE(beforeTheyEnd.hasExpired());
 }
 
@@ -85,6 +90,9 @@ TEST_F(XdgWorkspaceTest, SaysWhyNothingOpens)
     install(u"xdg-open"_s);
     for (const QString& url : {u"file:///etc/passwd"_s, u"--help"_s, u"javascript:alert(1)"_s, QString()}) {
         EXPECT_TRUE(workspace.openUrl(QUrl(url))) << url.toStdString();
+    }
+    for (const QString& path : {bin.filePath(u"xdg-open"_s), bin.filePath(u"missing"_s), u"."_s, QString()}) {
+        EXPECT_EQ(workspace.openFolder(path)->description, u"Cannot open %1: not a folder"_s.arg(path));
     }
     EXPECT_FALSE(QFile::exists(calledFile()));
 }
