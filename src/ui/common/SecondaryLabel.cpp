@@ -20,7 +20,8 @@ void SecondaryLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(Theme::secondary(palette().color(foregroundRole()), palette().color(backgroundRole())));
-    painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
+    const int wrap = wordWrap() ? Qt::TextWordWrap : 0;
+    painter.drawText(contentsRect(), static_cast<int>(alignment()) | wrap, text());
 }
 
 } // namespace aerolith

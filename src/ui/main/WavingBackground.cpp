@@ -1,12 +1,11 @@
 #include "ui/main/WavingBackground.h"
 
+#include "ui/common/SecondaryLabel.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 #include "ui/main/BackdropMessage.h"
 #include "ui/main/BackdropMotion.h"
 
-#include <QEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -49,13 +48,12 @@ QRegion ringsRegion(const QPointF& centre)
 
 WavingBackground::WavingBackground(WiFiScanner& scanner)
     : m_scanner(scanner)
-    , m_message(new QLabel)
+    , m_message(new SecondaryLabel(messageSize))
     , m_publish([this] { showState(); })
     , m_clock(*this, [this] { repaintMoving(); })
 {
     setObjectName(u"wavingBackground"_s);
     m_message->setObjectName(u"backdropMessage"_s);
-    m_message->setTextFormat(Qt::PlainText);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setFont(Theme::font(m_message->font(), messageSize, QFont::Medium));
 
@@ -68,7 +66,6 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
 
     connect(&m_scanner, &WiFiScanner::locationAccessDeniedChanged, &m_publish, &OncePerTurn::request);
     connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
-    colorMessage();
     showState();
 }
 
@@ -82,14 +79,6 @@ void WavingBackground::paintEvent(QPaintEvent* /*event*/)
     paintSymbol(painter);
 }
 
-void WavingBackground::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::PaletteChange) {
-        colorMessage();
-    }
-    QWidget::changeEvent(event);
-}
-
 void WavingBackground::showState()
 {
     const bool listIsEmpty = m_scanner.networks().isEmpty();
@@ -101,14 +90,6 @@ void WavingBackground::showState()
     m_showsRings = listIsEmpty;
     m_message->setText(message.text);
     update();
-}
-
-void WavingBackground::colorMessage()
-{
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText,
-                    Theme::secondary(colors.color(QPalette::WindowText), colors.color(QPalette::Window)));
-    m_message->setPalette(colors);
 }
 
 void WavingBackground::repaintMoving()

@@ -6,9 +6,9 @@
 
 #include <QWidget>
 
-class QLabel;
-
 namespace aerolith {
+
+class SecondaryLabel;
 
 /// What fills the detail column while no access point is shown there: a pulsing symbol over a message that
 /// says what to do or what is going on, with waves behind them while the list is empty.
@@ -25,11 +25,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void showState();
-    void colorMessage();
     void repaintMoving();
     /// The symbol at scale 1.
     [[nodiscard]] QRectF symbolFrame() const;
@@ -39,7 +37,7 @@ private:
     WiFiScanner& m_scanner;
     QString m_symbol;
     bool m_showsRings = false;
-    QLabel* m_message;
+    SecondaryLabel* m_message;
     OncePerTurn m_publish;
     VisibleClock m_clock;
 };

@@ -1,0 +1,194 @@
+#include "ui/settings/SettingsView.h"
+
+#include "model/SettingKeys.h"
+#include "ui/common/SecondaryLabel.h"
+#include "ui/common/Theme.h"
+#include "ui/common/TitledBox.h"
+#include "ui/settings/SteppedSlider.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <functional>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int sheetWidth = 400;
+constexpr int sheetSpacing = 20;
+constexpr int settingSpacing = 16;
+constexpr int blockSpacing = 8;
+constexpr int buttonSpacing = 8;
+constexpr int valueWidth = 40;
+constexpr int valueSize = 13;
+
+/// How a setting's value reads: "10s" beside the slider, "10 seconds" for who hears it.
+struct ValueTexts
+{
+    QString shown;
+    QString spoken;
+};
+
+struct Setting
+{
+    QString objectName;
+    QString title;
+    int minimum = 0;
+    int maximum = 0;
+    int step = 1;
+    /// What is stored, cut to a whole number in the range.
+    int value = 0;
+    ValueTexts (*texts)(int value) = nullptr;
+    /// The user has moved the slider.
+    std::function<void(int value)> store;
+};
+
+/// Title, slider and value of one setting.
+QLayout* makeBlock(const Setting& setting)
+{
+    auto* title = new QLabel(setting.title);
+    title->setFont(Theme::font(title->font(), TextStyle::subheadline));
+    auto* slider = new SteppedSlider(setting.minimum, setting.maximum, setting.step);
+    slider->setObjectName(setting.objectName);
+    slider->setAccessibleName(setting.title);
+    title->setBuddy(slider);
+    auto* shown = new SecondaryLabel(valueSize);
+    shown->setObjectName(setting.objectName + "Value"_L1);
+    shown->setAlignment(Qt::AlignCenter);
+    shown->setFixedWidth(valueWidth);
+
+    const auto show = [slider, shown, texts = setting.texts](int value) {
+        shown->setText(texts(value).shown);
+        slider->setAccessibleDescription(texts(value).spoken);
+    };
+    slider->setValue(setting.value);
+    show(setting.value);
+    QObject::connect(slider, &QSlider::valueChanged, slider, [show, store = setting.store](int value) {
+        store(value);
+        show(value);
+    });
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(slider);
+    row->addWidget(shown);
+    auto* block = new QVBoxLayout;
+    block->setSpacing(blockSpacing);
+    block->addWidget(title);
+    block->addLayout(row);
+    return block;
+}
+
+} // namespace
+
+SettingsView::SettingsView(WiFiScanner& scanner, UserDefaults& userDefaults, LoginItem& loginItem, Log& log,
+                           QWidget* parent)
+    : Sheet(sheetWidth, sheetSpacing, parent)
+    , m_scanner(scanner)
+    , m_userDefaults(userDefaults)
+    , m_loginItem(loginItem)
+    , m_log(log)
+    , m_startAtLogin(new QCheckBox(u"Start at login"_s))
+{
+    setObjectName(u"settingsView"_s);
+    setWindowTitle(u"Settings"_s);
+    content().addWidget(makeScanSettings());
+    content().addLayout(makeButtons());
+}
+
+void SettingsView::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous()) {
+        m_startAtLogin->setChecked(m_loginItem.isEnabled());
+    }
+    Sheet::showEvent(event);
+}
+
+QWidget* SettingsView::makeScanSettings()
+{
+    m_startAtLogin->setObjectName(u"startAtLogin"_s);
+    // The user's own changes alone; the program's do not click.
+    connect(m_startAtLogin, &QCheckBox::clicked, this, &SettingsView::setLoginItem);
+
+    auto* box = new TitledBox(u"Scan Settings"_s, settingSpacing);
+    box->setSymbol(u"wifi"_s);
+    box->rows().addLayout(makeScanInterval());
+    box->rows().addLayout(makeHistoryPoints());
+    box->rows().addWidget(m_startAtLogin);
+    return box;
+}
+
+QLayout* SettingsView::makeScanInterval()
+{
+    constexpr int minimum = 5;
+    constexpr int maximum = 30;
+    return makeBlock(
+        {.objectName = u"scanInterval"_s,
+         .title = u"Scan Interval"_s,
+         .minimum = minimum,
+         .maximum = maximum,
+         .step = 1,
+         .value = static_cast<int>(std::clamp<double>(m_scanner.scanInterval(), minimum, maximum)),
+         .texts =
+             [](int value) {
+                 return ValueTexts{u"%1s"_s.arg(value), u"%1 seconds"_s.arg(value)};
+             },
+         .store = [this](int value) { m_userDefaults.setDouble(value, SettingKeys::scanInterval); }});
+}
+
+QLayout* SettingsView::makeHistoryPoints()
+{
+    constexpr int minimum = 10;
+    constexpr int maximum = 50;
+    return makeBlock(
+        {.objectName = u"historyLimit"_s,
+         .title = u"History Points"_s,
+         .minimum = minimum,
+         .maximum = maximum,
+         .step = 5,
+         .value = static_cast<int>(std::clamp<qint64>(m_scanner.historyLimit(), minimum, maximum)),
+         .texts =
+             [](int value) {
+                 return ValueTexts{u"%1"_s.arg(value), u"%1 points"_s.arg(value)};
+             },
+         .store = [this](int value) { m_userDefaults.setInteger(value, SettingKeys::historyLimit); }});
+}
+
+QLayout* SettingsView::makeButtons()
+{
+    auto* cancelButton = new QPushButton(u"Cancel"_s);
+    cancelButton->setObjectName(u"cancel"_s);
+    connect(cancelButton, &QPushButton::clicked, this, &SettingsView::reject);
+    auto* saveButton = new QPushButton(u"Save"_s);
+    saveButton->setObjectName(u"save"_s);
+    saveButton->setDefault(true);
+    connect(saveButton, &QPushButton::clicked, this, &SettingsView::save);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(buttonSpacing);
+    buttons->addStretch();
+    buttons->addWidget(cancelButton);
+    buttons->addWidget(saveButton);
+    return buttons;
+}
+
+void SettingsView::save()
+{
+    m_scanner.startTimer();
+    accept();
+}
+
+void SettingsView::setLoginItem(bool enabled)
+{
+    if (const Failure failure = m_loginItem.setEnabled(enabled)) {
+        m_log.line(u"Error toggling login item: %1"_s.arg(failure->description));
+        m_startAtLogin->setChecked(!enabled);
+    }
+}
+
+} // namespace aerolith

@@ -1,0 +1,152 @@
+#include "ui/detail/NetworkInfoDialog.h"
+
+#include "platform/simulated/ScenarioReader.h"
+#include "platform/simulated/SimulatedRadio.h"
+#include "support/FakeDesktop.h"
+#include "support/ManualMainQueue.h"
+#include "support/Printing.h"
+#include "support/RecordingLog.h"
+#include "ui/detail/InterfaceSnapshot.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPushButton>
+#include <QTest>
+#include <QTextEdit>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The interface of a scenario: the members of "interface" and the name of the network that it is joined to.
+class InterfaceOf
+{
+public:
+    explicit InterfaceOf(const QByteArray& members, const QByteArray& joined = "null")
+        : m_radio(parseScenario(R"({"interface": {)" + members + R"(}, "cycles": [{"joined": {"ssid": )" +
+                                joined + R"(}, "networks": []}]})")
+                      .value(),
+                  m_main)
+    {
+    }
+
+    [[nodiscard]] std::shared_ptr<CWInterface> interface() { return m_radio.wifiClient().interface(); }
+
+private:
+    ManualMainQueue m_main;
+    SimulatedRadio m_radio;
+};
+
+QStringList lines(const QList<InterfaceFact>& facts)
+{
+    QStringList lines;
+    for (const InterfaceFact& fact : facts) {
+        lines.append(fact.label + u": "_s + fact.value);
+    }
+    return lines;
+}
+
+class NetworkInfoDialogTest : public testing::Test
+{
+protected:
+    NetworkInfoDialog& open(CWInterface* interface = nullptr)
+    {
+        dialog.emplace(interface, desktop.hostAddresses, desktop.workspace, log);
+        dialog->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&*dialog));
+        return *dialog;
+    }
+
+    /// The value beside a label.
+    QTextEdit& value(const QString& label)
+    {
+        for (auto* text : dialog->findChildren<QTextEdit*>()) {
+            if (text->accessibleName() == label) {
+                return *text;
+            }
+        }
+        ADD_FAILURE() << label.toStdString();
+        return *dialog->findChild<QTextEdit*>();
+    }
+
+    FakeDesktop desktop;
+    RecordingLog log;
+    std::optional<NetworkInfoDialog> dialog;
+};
+
+} // namespace
+
+TEST_F(NetworkInfoDialogTest, TellsWhatTheInterfaceDelivers)
+{
+    const auto facts = [this](CWInterface* interface) {
+        return lines(interfaceFacts(InterfaceSnapshot::read(interface, desktop.hostAddresses)));
+    };
+    InterfaceOf joined(R"("name": "wlp3s0", "transmitPower": 63, "channels": [36, 1, 36])", R"("a\nb")");
+    desktop.hostAddresses.address = u"192.168.1.20"_s;
+    EXPECT_EQ(facts(joined.interface().get()),
+              QStringList({u"Interface: wlp3s0"_s, u"Hardware Address: 02:00:00:00:00:00"_s,
+                           u"IP Address: 192.168.1.20"_s, u"Connected Network: a\uFFFDb"_s,
+                           u"Transmit Power: 63 mW"_s, u"Supported Channels: 36, 1, 36"_s}));
+    EXPECT_EQ(facts(nullptr), QStringList({u"Interface: Unknown"_s, u"Hardware Address: Unknown"_s,
+                                           u"IP Address: 192.168.1.20"_s, u"Transmit Power: 0 mW"_s,
+                                           u"Supported Channels: None"_s}))
+        << "the address is not the interface's";
+
+    desktop.hostAddresses.address.reset();
+    InterfaceOf silent(R"("name": null, "hardwareAddress": null, "channels": null)");
+    EXPECT_EQ(facts(silent.interface().get()),
+              QStringList({u"Interface: Unknown"_s, u"Hardware Address: Unknown"_s,
+                           u"Transmit Power: 20 mW"_s, u"Supported Channels: None"_s}));
+    InterfaceOf noChannels(R"("channels": [])");
+    EXPECT_EQ(facts(noChannels.interface().get()).last(), u"Supported Channels: "_s);
+}
+
+TEST_F(NetworkInfoDialogTest, ShowsLongAndHostileTextsWholeAndLetsThemBeCopied)
+{
+    InterfaceOf hostile(R"("channels": [1,2,3,4,5,6,7,8,9,10,11,12,13,36,40,44,48,52,56,60,64,100,104,108])",
+                        R"("<b>WWWWWWWWWWWWWWWWWWWWWWWWW</b>")");
+    open(hostile.interface().get());
+    EXPECT_EQ(dialog->width(), 400);
+    for (auto* text : dialog->findChildren<QTextEdit*>()) {
+        SCOPED_TRACE(text->toPlainText().toStdString());
+        EXPECT_GE(text->viewport()->height(), text->document()->size().height()) << "cut off";
+        EXPECT_LE(text->document()->idealWidth(), text->viewport()->width());
+        EXPECT_TRUE(dialog->rect().contains(QRect(text->mapTo(&*dialog, QPoint()), text->size())));
+    }
+    EXPECT_GT(value(u"Connected Network"_s).height(), value(u"Interface"_s).height());
+
+    auto& name = value(u"Connected Network"_s);
+    name.setFocus();
+    QTest::keySequence(&name, QKeySequence::SelectAll);
+    QTest::keySequence(&name, QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"<b>WWWWWWWWWWWWWWWWWWWWWWWWW</b>"_s);
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible()) << "closes it from anywhere";
+}
+
+TEST_F(NetworkInfoDialogTest, OpensTheNetworkSettingsAndStays)
+{
+    open();
+    auto* settings = dialog->findChild<QPushButton*>(u"openNetworkSettings"_s);
+    ASSERT_NE(settings, nullptr);
+    QTest::mouseClick(settings, Qt::LeftButton);
+    EXPECT_EQ(desktop.workspace.pages, QList<SettingsPage>{SettingsPage::network});
+    EXPECT_EQ(log.take(), QStringList());
+
+    desktop.workspace.refusal = Error{u"Cannot open the network settings"_s};
+    QTest::mouseClick(settings, Qt::LeftButton);
+    EXPECT_EQ(log.take(), QStringList(u"Cannot open the network settings"_s));
+    EXPECT_TRUE(dialog->isVisible());
+
+    QTest::keyClick(&*dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    open();
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+} // namespace aerolith

@@ -1,0 +1,189 @@
+#include "ui/settings/SettingsView.h"
+
+#include "model/SettingKeys.h"
+#include "support/Engine.h"
+#include "support/FakeDesktop.h"
+#include "support/Printing.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The sheet on an engine that the test drives.
+class SettingsViewTest : public testing::Test
+{
+protected:
+    SettingsView& open()
+    {
+        view.emplace(*engine.scanner, engine.defaults, loginItem, engine.log);
+        view->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&*view));
+        return *view;
+    }
+
+    template <typename Widget>
+    Widget& child(const QString& name)
+    {
+        auto* found = view->findChild<Widget*>(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        return *found;
+    }
+
+    QString shown(const QString& setting) { return child<QLabel>(setting + u"Value"_s).text(); }
+
+    std::optional<double> interval() const { return engine.defaults.doubleForKey(SettingKeys::scanInterval); }
+
+    std::optional<qint64> limit() const { return engine.defaults.integerForKey(SettingKeys::historyLimit); }
+
+    /// Whether the timer's next tick comes after this time, and not before.
+    bool ticksAfter(double seconds)
+    {
+        engine.main.advance(Seconds(seconds - 0.5));
+        const bool early = engine.scanTasks.runOne();
+        engine.main.advance(Seconds(0.5));
+        return engine.scanTasks.runOne() && !early;
+    }
+
+    Engine engine;
+    FakeLoginItem loginItem;
+    std::optional<SettingsView> view;
+};
+
+} // namespace
+
+TEST_F(SettingsViewTest, StoresEveryMovementAtOnceAndUndoesNone)
+{
+    open();
+    EXPECT_EQ(shown(u"scanInterval"_s), u"10s"_s);
+    EXPECT_EQ(shown(u"historyLimit"_s), u"20"_s);
+    EXPECT_EQ(interval(), std::nullopt) << "shown is not moved";
+
+    auto& slider = child<QSlider>(u"scanInterval"_s);
+    QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_EQ(interval(), 11.0);
+    EXPECT_EQ(shown(u"scanInterval"_s), u"11s"_s);
+    EXPECT_EQ(slider.accessibleDescription(), u"11 seconds"_s);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(interval(), 5.0);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_EQ(interval(), 30.0);
+
+    QTest::keyClick(&*view, Qt::Key_Escape);
+    EXPECT_FALSE(view->isVisible());
+    EXPECT_EQ(interval(), 30.0);
+    open();
+    EXPECT_EQ(shown(u"scanInterval"_s), u"30s"_s);
+}
+
+TEST_F(SettingsViewTest, DragsTheHistorySliderInStepsOfFive)
+{
+    open();
+    auto& slider = child<QSlider>(u"historyLimit"_s);
+    QStyleOptionSlider option;
+    option.initFrom(&slider);
+    option.minimum = slider.minimum();
+    option.maximum = slider.maximum();
+    option.sliderPosition = slider.value();
+    option.sliderValue = slider.value();
+    const QPoint handle =
+        slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider).center();
+    QSet<qint64> stored;
+    QTest::mousePress(&slider, Qt::LeftButton, {}, handle);
+    for (int x = handle.x(); x < slider.width() + 20; ++x) {
+        QTest::mouseMove(&slider, {x, handle.y()});
+        stored.insert(limit().value_or(20));
+    }
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, {slider.width(), handle.y()});
+    EXPECT_EQ(stored, (QSet<qint64>{20, 25, 30, 35, 40, 45, 50}));
+    EXPECT_EQ(shown(u"historyLimit"_s), u"50"_s);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    EXPECT_EQ(limit(), 45);
+}
+
+TEST_F(SettingsViewTest, RestartsTheTimerOnSaveAlone)
+{
+    engine.scanner->startTimer();
+    open();
+    QTest::keyClick(&child<QSlider>(u"scanInterval"_s), Qt::Key_Home);
+    QTest::keyClick(&*view, Qt::Key_Escape);
+    EXPECT_TRUE(ticksAfter(10)) << "as before";
+
+    open();
+    QTest::keyClick(&child<QSlider>(u"scanInterval"_s), Qt::Key_Return);
+    EXPECT_FALSE(view->isVisible());
+    EXPECT_TRUE(ticksAfter(5));
+    EXPECT_EQ(engine.main.runningTimers(), 1U);
+}
+
+TEST_F(SettingsViewTest, ShowsWhatNoSliderReachesAsTheNearestAndLeavesItStored)
+{
+    struct
+    {
+        double interval;
+        qint64 limit;
+        QString shownInterval;
+        QString shownLimit;
+    } const cases[] = {
+        {100, std::numeric_limits<qint64>::max(), u"30s"_s, u"50"_s},
+        {1, std::numeric_limits<qint64>::min(), u"5s"_s, u"10"_s},
+        {-3, 9, u"10s"_s, u"10"_s},
+        {12.9, 23, u"12s"_s, u"23"_s},
+        {std::numeric_limits<double>::infinity(), 51, u"10s"_s, u"50"_s},
+    };
+
+    for (const auto& [storedInterval, storedLimit, shownInterval, shownLimit] : cases) {
+        engine.defaults.setDouble(storedInterval, SettingKeys::scanInterval);
+        engine.defaults.setInteger(storedLimit, SettingKeys::historyLimit);
+        open();
+        EXPECT_EQ(shown(u"scanInterval"_s), shownInterval);
+        EXPECT_EQ(shown(u"historyLimit"_s), shownLimit);
+        QTest::keyClick(&*view, Qt::Key_Return);
+        EXPECT_EQ(interval(), storedInterval);
+        EXPECT_EQ(limit(), storedLimit);
+    }
+    engine.defaults.setInteger(23, SettingKeys::historyLimit);
+    open();
+    QTest::keyClick(&child<QSlider>(u"historyLimit"_s), Qt::Key_Left);
+    EXPECT_EQ(limit(), 20) << "back on a step";
+}
+
+TEST_F(SettingsViewTest, SwitchesTheLoginItemAndGoesBackWhenRefused)
+{
+    loginItem.enabled = true;
+    open();
+    auto& toggle = child<QCheckBox>(u"startAtLogin"_s);
+    EXPECT_TRUE(toggle.isChecked());
+    QTest::keyClick(&toggle, Qt::Key_Space);
+    EXPECT_FALSE(loginItem.enabled);
+    EXPECT_EQ(loginItem.calls, 1);
+
+    engine.log.take();
+    loginItem.refusal = Error{u"the disk is full"_s};
+    QTest::keyClick(&toggle, Qt::Key_Space);
+    EXPECT_FALSE(toggle.isChecked());
+    EXPECT_EQ(loginItem.calls, 2) << "not told to go back as well";
+    EXPECT_EQ(engine.log.take(), QStringList(u"Error toggling login item: the disk is full"_s));
+
+    view->hide();
+    loginItem.enabled = true;
+    view->show();
+    EXPECT_TRUE(toggle.isChecked()) << "changed from outside";
+    EXPECT_EQ(loginItem.calls, 2);
+}
+
+} // namespace aerolith
