@@ -3,6 +3,7 @@
 #include "platform/DesktopServices.h"
 
 #include <QList>
+#include <QStringList>
 
 namespace aerolith {
 
@@ -36,6 +37,12 @@ public:
         return refusal;
     }
 
+    [[nodiscard]] Failure openFolder(const QString& path) override
+    {
+        folders.append(path);
+        return refusal;
+    }
+
     [[nodiscard]] Failure openSettings(SettingsPage page) override
     {
         pages.append(page);
@@ -43,6 +50,7 @@ public:
     }
 
     QList<QUrl> urls;
+    QStringList folders;
     QList<SettingsPage> pages;
     Failure refusal;
 };
