@@ -2,13 +2,16 @@
 
 namespace aerolith {
 
-AerolithApp::AerolithApp(const Surroundings& surroundings)
+AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
     , m_dateTexts(surroundings.locale)
     , m_exporter(surroundings.log)
     , m_mainWindow(m_scanner,
                    {.userDefaults = surroundings.userDefaults,
+                    .wifiClient = surroundings.wifiClient,
+                    .desktop = desktop,
+                    .log = surroundings.log,
                     .detail = {.clock = surroundings.clock, .texts = m_dateTexts, .exporter = m_exporter}})
 {
 }

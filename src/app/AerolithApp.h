@@ -12,7 +12,7 @@ namespace aerolith {
 class AerolithApp
 {
 public:
-    explicit AerolithApp(const Surroundings& surroundings);
+    AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop);
 
     void showMainWindow();
 

@@ -40,7 +40,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
         return refuse(platform.error());
     }
     const TerminationSignals terminationSignals([] { QApplication::exit(0); });
-    AerolithApp app(platform.value()->surroundings());
+    AerolithApp app(platform.value()->surroundings(), platform.value()->desktopServices());
     app.showMainWindow();
     const int status = QApplication::exec();
     platform.value()->stopScanning();

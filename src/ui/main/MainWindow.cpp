@@ -1,6 +1,8 @@
 #include "ui/main/MainWindow.h"
 
 #include "ui/common/Divider.h"
+#include "ui/detail/NetworkInfoDialog.h"
+#include "ui/settings/SettingsView.h"
 
 #include <QToolBar>
 
@@ -35,11 +37,22 @@ SymbolButton* makeButton(const QString& objectName, const QString& symbol, const
     return button;
 }
 
+/// Over its window alone. Made anew each time, it shows how things are then.
+void openOver(Sheet* sheet)
+{
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
+}
+
 } // namespace
 
 MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundings)
-    : m_content(new ContentView(scanner, surroundings))
+    : m_scanner(scanner)
+    , m_surroundings(surroundings)
+    , m_content(new ContentView(scanner, surroundings))
     , m_sidebarButton(makeButton(u"toggleSidebar"_s, u"sidebar.left"_s, {}))
+    , m_settingsButton(makeButton(u"settings"_s, u"gear"_s, u"Settings"_s))
+    , m_infoButton(makeButton(u"networkInfo"_s, u"info.circle"_s, u"Wi-Fi interface information"_s))
 {
     setObjectName(u"mainWindow"_s);
     m_content->setObjectName(u"content"_s);
@@ -49,6 +62,8 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
     m_content->focusList();
 
     connect(m_sidebarButton, &SymbolButton::clicked, this, &MainWindow::toggleSidebar);
+    connect(m_settingsButton, &SymbolButton::clicked, this, &MainWindow::openSettings);
+    connect(m_infoButton, &SymbolButton::clicked, this, &MainWindow::openNetworkInfo);
     connect(m_content, &ContentView::titleChanged, this, &MainWindow::setWindowTitle);
     nameSidebarButton();
     setWindowTitle(m_content->title());
@@ -63,10 +78,23 @@ void MainWindow::addToolBar()
     toolBar->toggleViewAction()->setVisible(false);
     toolBar->addWidget(m_sidebarButton);
     toolBar->addWidget(makeSpace());
-    toolBar->addWidget(makeButton(u"settings"_s, u"gear"_s, u"Settings"_s));
+    toolBar->addWidget(m_settingsButton);
     toolBar->addWidget(makeSeparator());
-    toolBar->addWidget(makeButton(u"networkInfo"_s, u"info.circle"_s, u"Wi-Fi interface information"_s));
+    toolBar->addWidget(m_infoButton);
     QMainWindow::addToolBar(toolBar);
+}
+
+void MainWindow::openSettings()
+{
+    openOver(new SettingsView(m_scanner, m_surroundings.userDefaults, m_surroundings.desktop.loginItem,
+                              m_surroundings.log, this));
+}
+
+void MainWindow::openNetworkInfo()
+{
+    const std::shared_ptr<CWInterface> interface = m_surroundings.wifiClient.interface();
+    openOver(new NetworkInfoDialog(interface.get(), m_surroundings.desktop.hostAddresses,
+                                   m_surroundings.desktop.workspace, m_surroundings.log, this));
 }
 
 void MainWindow::toggleSidebar()

@@ -18,11 +18,17 @@ public:
 
 private:
     void addToolBar();
+    void openSettings();
+    void openNetworkInfo();
     void toggleSidebar();
     void nameSidebarButton();
 
+    WiFiScanner& m_scanner;
+    WindowSurroundings m_surroundings;
     ContentView* m_content;
     SymbolButton* m_sidebarButton;
+    SymbolButton* m_settingsButton;
+    SymbolButton* m_infoButton;
 };
 
 } // namespace aerolith

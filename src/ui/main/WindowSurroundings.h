@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/CWWiFiClient.h"
+#include "platform/DesktopServices.h"
+#include "platform/Log.h"
 #include "platform/UserDefaults.h"
 #include "ui/detail/DetailSurroundings.h"
 
@@ -9,6 +12,9 @@ namespace aerolith {
 struct WindowSurroundings
 {
     UserDefaults& userDefaults;
+    CWWiFiClient& wifiClient;
+    DesktopServices desktop;
+    Log& log;
     DetailSurroundings detail;
 };
 

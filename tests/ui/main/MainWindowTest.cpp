@@ -6,8 +6,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -178,6 +180,30 @@ TEST_F(MainWindowTest, BringsTheSidebarBackAsWideAsItWas)
     window.resize(1200, 700);
     press(u"toggleSidebar"_s);
     EXPECT_EQ(sidebar.width(), 400);
+}
+
+TEST_F(MainWindowTest, OpensEachSheetAnewOverItselfAlone)
+{
+    press(u"settings"_s);
+    auto& settings = child<QDialog>(u"settingsView"_s);
+    EXPECT_EQ(settings.windowModality(), Qt::WindowModal);
+    QTest::keyClick(&settings, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(window.findChild<QDialog*>(), nullptr);
+
+    const auto namesInterface = [this] {
+        press(u"networkInfo"_s);
+        auto& dialog = child<QDialog>(u"networkInfoDialog"_s);
+        EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+        const QList<QTextEdit*> values = dialog.findChildren<QTextEdit*>();
+        const bool isNamed = !values.isEmpty() && values.first()->toPlainText() == "wlan0"_L1;
+        dialog.close();
+        settle();
+        return isNamed;
+    };
+    EXPECT_TRUE(namesInterface());
+    engine.wifi.setPresent(false);
+    EXPECT_FALSE(namesInterface()) << "the machine's interface as it is now";
 }
 
 TEST_F(MainWindowTest, IsReachedByTheKeyboardAndNamedForAssistiveTechnology)

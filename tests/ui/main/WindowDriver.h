@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Engine.h"
+#include "support/FakeDesktop.h"
 #include "support/Printing.h"
 #include "ui/SavedFiles.h"
 #include "ui/main/MainWindow.h"
@@ -76,8 +77,13 @@ protected:
     Engine engine;
     DateTexts texts{UserLocale()};
     SavedFiles files;
+    FakeDesktop desktop;
     MainWindow window{*engine.scanner,
-                      {.userDefaults = engine.defaults, .detail = {engine.main, texts, files.exporter}}};
+                      {.userDefaults = engine.defaults,
+                       .wifiClient = engine.wifi,
+                       .desktop = desktop.services(),
+                       .log = engine.log,
+                       .detail = {engine.main, texts, files.exporter}}};
     QListView& list = child<QListView>(QStringLiteral("networkList"));
 };
 
