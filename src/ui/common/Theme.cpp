@@ -45,8 +45,9 @@ QColor red(const QPalette& palette)
 
 QColor secondary(const QColor& text, const QColor& background)
 {
-    constexpr double step = 0.05;
-    for (double opacity = secondaryOpacity; opacity < 1; opacity += step) {
+    constexpr int steps = 7;
+    for (int step = 0; step < steps; ++step) {
+        const double opacity = secondaryOpacity + (1 - secondaryOpacity) * step / steps;
         const QColor color = blended(text, background, opacity);
         if (contrast(color, background) >= readableContrast) {
             return color;
