@@ -29,7 +29,8 @@ DetailSection::DetailSection(const QString& title, QWidget* parent)
     setAccessibleName(title);
     m_stack->setContentsMargins({});
     m_stack->setSpacing(0);
-    m_stack->addWidget(makeTitle(title));
+    // As wide as its text: in a wider place it would stand where its own direction begins, not the section's.
+    m_stack->addWidget(makeTitle(title), 0, Qt::AlignLeft);
     m_stack->addLayout(m_rowStack);
     m_rowStack->setContentsMargins(sidePadding, 0, sidePadding, 0);
 }
