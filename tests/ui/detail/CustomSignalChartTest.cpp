@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <utility>
 
 namespace aerolith {
 
@@ -186,13 +187,9 @@ TEST_F(CustomSignalChartTest, GoesFromSampleToSampleByKeys)
     show(samples);
     chart->clearFocus();
 
-    struct
-    {
-        Qt::Key key;
-        qsizetype shown;
-    } const steps[] = {{Qt::Key_Tab, 2},  {Qt::Key_Left, 1}, {Qt::Key_Home, 0},
-                       {Qt::Key_Left, 0}, {Qt::Key_End, 2},  {Qt::Key_Right, 2}};
-
+    const QList<std::pair<Qt::Key, qsizetype>> steps{{Qt::Key_Tab, 2},  {Qt::Key_Left, 1},
+                                                     {Qt::Key_Home, 0}, {Qt::Key_Left, 0},
+                                                     {Qt::Key_End, 2},  {Qt::Key_Right, 2}};
     for (const auto& [key, shown] : steps) {
         if (key == Qt::Key_Tab) {
             chart->setFocus(Qt::TabFocusReason);
