@@ -20,7 +20,7 @@ inline double cpuSeconds()
 }
 
 /// CPU seconds of the runs of one benchmark.
-struct Seconds
+struct CpuSeconds
 {
     double mean = 0;
     /// The run that was disturbed least: others on the machine share its caches and can only slow a run down.
@@ -28,9 +28,9 @@ struct Seconds
 };
 
 /// By name and size, for the ratios at the end of a program.
-inline std::map<std::pair<std::string, long>, Seconds>& measured()
+inline std::map<std::pair<std::string, long>, CpuSeconds>& measured()
 {
-    static std::map<std::pair<std::string, long>, Seconds> all;
+    static std::map<std::pair<std::string, long>, CpuSeconds> all;
     return all;
 }
 
