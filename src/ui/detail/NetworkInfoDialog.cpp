@@ -40,7 +40,7 @@ QLayout* NetworkInfoDialog::makeButtons()
     auto* settings = new QPushButton(u"Open Network Settings"_s);
     settings->setObjectName(u"openNetworkSettings"_s);
     connect(settings, &QPushButton::clicked, this, &NetworkInfoDialog::openNetworkSettings);
-    auto* closeButton = new QPushButton(u"Close"_s);
+    auto* closeButton = new QPushButton(u"Close"_s, this);
     closeButton->setObjectName(u"close"_s);
     closeButton->setDefault(true);
     closeButton->setFocus();
