@@ -10,7 +10,6 @@ using namespace std::chrono_literals;
 using nl80211::BootTime;
 using nl80211::ScanEvent;
 using nl80211::ScanStage;
-using nl80211::ScanTrigger;
 using Deadline = nl80211::ScanEvents::Deadline;
 
 namespace {
@@ -20,10 +19,12 @@ constexpr auto endLimit = 30s;
 // A scan of every channel, with those where it may only listen.
 constexpr auto longestScan = 10s;
 
-// A scan that was on its way when the request came in may begin after it, without the name.
-bool asksFor(const ScanEvent& event, const std::optional<QByteArray>& ssid)
+// The question for a name, or its answer, is easily lost on the air.
+constexpr int questions = 2;
+
+bool asksFor(const ScanEvent& event, const QByteArray& ssid)
 {
-    return !ssid || event.ssids.isEmpty() || event.ssids.contains(*ssid);
+    return event.ssids.isEmpty() || event.ssids.contains(ssid);
 }
 
 Result<BootTime> newestScan(ScanService& service, BootTime begun)
@@ -41,15 +42,16 @@ Result<BootTime> newestScan(ScanService& service, BootTime begun)
 } // namespace
 
 Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, BootTime begun,
-                           const std::optional<QByteArray>& ssid)
+                           const std::optional<QByteArray>& ssid, const Heard& heard)
 {
     // A scan that is under way began after the one before it had ended.
     const auto runningSince = std::max(begun - longestScan, service.lastScan().value_or(BootTime::min()));
-    auto trigger = service.request(ssid);
+    auto refusal = service.request(ssid);
     const auto requested = Deadline::clock::now();
     auto deadline = requested + startLimit;
     bool startSeen = false;
-    while (trigger.ok()) {
+    int asked = 0;
+    while (!refusal) {
         const auto event = events.wait(deadline);
         if (!event.ok()) {
             return event.error();
@@ -62,27 +64,31 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
             startSeen = true;
             deadline = requested + endLimit;
             break;
-        case ScanStage::finished:
-            if (startSeen && asksFor(*event.value(), ssid)) {
+        case ScanStage::finished: {
+            const auto since = startSeen ? begun : runningSince;
+            if (!ssid || heard(since)) {
+                return since;
+            }
+            if (startSeen && asksFor(*event.value(), *ssid) && ++asked == questions) {
                 return begun;
             }
-            if (!ssid) {
-                return runningSince;
-            }
-            startSeen = false;
-            if (trigger.value() == ScanTrigger::alreadyRunning) {
-                trigger = service.request(ssid);
-            }
             break;
+        }
         case ScanStage::aborted:
-            startSeen = false;
             if (auto obstacle = service.obstacle()) {
                 return *obstacle;
             }
             break;
         }
+        if (event.value()->stage != ScanStage::started) {
+            startSeen = false;
+            // A name is asked for by one scan alone, and forgotten where that one could not begin.
+            if (ssid) {
+                refusal = service.request(ssid);
+            }
+        }
     }
-    return trigger.error();
+    return *refusal;
 }
 
 } // namespace aerolith

@@ -5,7 +5,6 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
-using nl80211::ScanTrigger;
 
 KernelScan::KernelScan(nl80211::Nl80211& kernel, std::uint32_t interfaceIndex,
                        std::function<std::optional<bool>()> radioOn, QString whyNotNetworkManager)
@@ -21,13 +20,11 @@ Failure KernelScan::obstacle()
     return m_radioOn().value_or(true) ? Failure() : Error{u"The Wi-Fi radio is off"_s};
 }
 
-Result<ScanTrigger> KernelScan::request(const std::optional<QByteArray>& ssid)
+Failure KernelScan::request(const std::optional<QByteArray>& ssid)
 {
-    auto trigger = m_kernel.triggerScan(m_interfaceIndex, ssid);
-    if (!trigger.ok()) {
-        return Error{u"%1. %2"_s.arg(m_whyNotNetworkManager, trigger.error().description)};
-    }
-    return trigger;
+    const auto refusal = m_kernel.triggerScan(m_interfaceIndex, ssid);
+    return refusal ? Failure(Error{u"%1. %2"_s.arg(m_whyNotNetworkManager, refusal->description)})
+                   : Failure();
 }
 
 std::optional<nl80211::BootTime> KernelScan::lastScan()

@@ -18,7 +18,7 @@ public:
                std::function<std::optional<bool>()> radioOn, QString whyNotNetworkManager);
 
     [[nodiscard]] Failure obstacle() override;
-    [[nodiscard]] Result<nl80211::ScanTrigger> request(const std::optional<QByteArray>& ssid) override;
+    [[nodiscard]] Failure request(const std::optional<QByteArray>& ssid) override;
 
     /// Always absent: the kernel does not say.
     [[nodiscard]] std::optional<nl80211::BootTime> lastScan() override;

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxWireless.h"
 
+#include "platform/linux/nl80211/Sightings.h"
+
 #include <utility>
 
 namespace aerolith {
@@ -27,6 +29,22 @@ Result<nl80211::InterfaceInfo> LinuxWireless::interface(const QString& name)
         }
     }
     return Error{u"The Wi-Fi interface %1 is gone"_s.arg(name)};
+}
+
+QList<nl80211::BssEntry> LinuxWireless::entries(const QString& interfaceName)
+{
+    const auto info = interface(interfaceName);
+    if (!info.ok()) {
+        return {};
+    }
+    const auto entries = kernel->bssEntries(info.value().index);
+    return entries.ok() ? entries.value() : QList<nl80211::BssEntry>();
+}
+
+bool LinuxWireless::isHeard(const QString& interfaceName, const QByteArray& ssid, nl80211::BootTime since)
+{
+    const auto dumped = nl80211::bootTimeNow();
+    return !nl80211::sightings(entries(interfaceName), since, dumped, ssid).isEmpty();
 }
 
 } // namespace aerolith

@@ -1,11 +1,12 @@
 #include "platform/linux/NetworkManagerScan.h"
 
+#include "platform/linux/DeviceObstacle.h"
+
 #include <utility>
 
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
-using nl80211::ScanTrigger;
 
 NetworkManagerScan::NetworkManagerScan(const NetworkManager& manager, QString interfaceName,
                                        QString devicePath)
@@ -15,31 +16,14 @@ NetworkManagerScan::NetworkManagerScan(const NetworkManager& manager, QString in
 
 Failure NetworkManagerScan::obstacle()
 {
-    const auto switches = m_manager.radioSwitches();
-    if (!switches.ok()) {
-        return switches.error();
-    }
-    if (!switches.value().on()) {
-        return Error{u"The Wi-Fi radio is off"_s};
-    }
-    const auto device = m_manager.device(m_interfaceName);
-    if (!device.ok()) {
-        return device.error();
-    }
-    if (!device.value()) {
-        return Error{u"The Wi-Fi interface %1 is gone"_s.arg(m_interfaceName)};
-    }
-    if (device.value()->state < DeviceState::disconnected) {
-        return Error{u"The Wi-Fi interface %1 is not available"_s.arg(m_interfaceName)};
-    }
-    return {};
+    return deviceObstacle(m_manager, m_interfaceName);
 }
 
-Result<ScanTrigger> NetworkManagerScan::request(const std::optional<QByteArray>& ssid)
+Failure NetworkManagerScan::request(const std::optional<QByteArray>& ssid)
 {
     const auto error = m_manager.requestScan(m_devicePath, ssid);
     if (!error) {
-        return ScanTrigger::started;
+        return {};
     }
     switch (error->failure) {
     case RemoteFailure::permissionDenied:
@@ -60,10 +44,10 @@ std::optional<nl80211::BootTime> NetworkManagerScan::lastScan()
 }
 
 // NetworkManager gives one name to several reasons; only the device's state tells them apart.
-Result<ScanTrigger> NetworkManagerScan::whyNotAllowed()
+Failure NetworkManagerScan::whyNotAllowed()
 {
     if (auto obstacle = NetworkManagerScan::obstacle()) {
-        return *obstacle;
+        return obstacle;
     }
     const auto device = m_manager.device(m_interfaceName);
     const auto isSettled = [](DeviceState state) {
@@ -73,7 +57,7 @@ Result<ScanTrigger> NetworkManagerScan::whyNotAllowed()
         return Error{u"The Wi-Fi interface %1 is busy joining or leaving a network"_s.arg(m_interfaceName)};
     }
     // A scan is under way, or has only just ended.
-    return ScanTrigger::alreadyRunning;
+    return {};
 }
 
 } // namespace aerolith

@@ -15,11 +15,11 @@ public:
     NetworkManagerScan(const NetworkManager& manager, QString interfaceName, QString devicePath);
 
     [[nodiscard]] Failure obstacle() override;
-    [[nodiscard]] Result<nl80211::ScanTrigger> request(const std::optional<QByteArray>& ssid) override;
+    [[nodiscard]] Failure request(const std::optional<QByteArray>& ssid) override;
     [[nodiscard]] std::optional<nl80211::BootTime> lastScan() override;
 
 private:
-    [[nodiscard]] Result<nl80211::ScanTrigger> whyNotAllowed();
+    [[nodiscard]] Failure whyNotAllowed();
 
     const NetworkManager& m_manager;
     QString m_interfaceName;

@@ -23,10 +23,9 @@ public:
     /// What stands in the way of a scan as things are now; nothing where a scan can be asked for.
     [[nodiscard]] virtual Failure obstacle() = 0;
 
-    /// Asks for a scan, of this name too where one is given, and returns before it has begun.
-    /// `alreadyRunning` where somebody else's scan has to end first and the request is forgotten; the error
-    /// says why there will be no scan.
-    [[nodiscard]] virtual Result<nl80211::ScanTrigger> request(const std::optional<QByteArray>& ssid) = 0;
+    /// Asks for a scan, of this name too where one is given, and returns before it has begun. Where somebody
+    /// else's scan is under way the request may be forgotten. The error says why there will be no scan.
+    [[nodiscard]] virtual Failure request(const std::optional<QByteArray>& ssid) = 0;
 
     /// When the newest scan ended; absent when there was none or the service does not know.
     [[nodiscard]] virtual std::optional<nl80211::BootTime> lastScan() = 0;

@@ -16,17 +16,16 @@ using namespace std::chrono_literals;
 using nl80211::BootTime;
 using nl80211::ScanEvent;
 using nl80211::ScanStage;
-using nl80211::ScanTrigger;
 using testing::ElementsAre;
 
 struct FakeService : ScanService
 {
     Failure obstacle() override { return standing; }
 
-    Result<ScanTrigger> request(const std::optional<QByteArray>& ssid) override
+    Failure request(const std::optional<QByteArray>& ssid) override
     {
         requests.push_back(ssid);
-        return requests.size() == 1 ? first : Result<ScanTrigger>(ScanTrigger::started);
+        return refusal;
     }
 
     std::optional<BootTime> lastScan() override
@@ -39,7 +38,7 @@ struct FakeService : ScanService
     }
 
     Failure standing;
-    Result<ScanTrigger> first = ScanTrigger::started;
+    Failure refusal;
     /// Answers in turn; the last one stays.
     std::deque<std::optional<BootTime>> lastScans{std::nullopt};
     std::vector<std::optional<QByteArray>> requests;
@@ -87,18 +86,22 @@ protected:
     std::optional<BootTime> await(std::deque<ScanEvent> script, const std::optional<QByteArray>& ssid = {})
     {
         ScriptedEvents events(std::move(script));
-        const auto result = awaitScan(m_service, events, begun, ssid);
+        const auto result = awaitScan(m_service, events, begun, ssid,
+                                      [this](BootTime since) { return m_heard && *m_heard >= since; });
         m_error = result.ok() ? QString() : result.error().description;
         return result.ok() ? std::optional(result.value()) : std::nullopt;
     }
 
     FakeService m_service;
+    /// When the name that is scanned for was last heard.
+    std::optional<BootTime> m_heard;
     QString m_error;
 };
 
 TEST_F(AwaitScanTest, aScanBegunSinceTheRequestAnswers)
 {
     EXPECT_EQ(await({started, finished}), begun);
+    m_heard = begun + 1s;
     EXPECT_EQ(await({started, finished}, "x"_ba), begun);
     EXPECT_THAT(m_service.requests, ElementsAre(std::nullopt, "x"_ba));
 }
@@ -109,24 +112,31 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
     m_service.lastScans = {begun - 3s};
     EXPECT_EQ(await({finished}), begun - 3s) << "it began after the one before had ended";
 
-    m_service.lastScans = {std::nullopt};
-    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun);
-    EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
+    EXPECT_EQ(await({finished}, "x"_ba), begun - 13s) << "the newest scan has to do";
 }
 
-TEST_F(AwaitScanTest, onlyAScanThatAsksForTheNameAnswersAScanForAName)
+TEST_F(AwaitScanTest, aScanForANameEndsWhereTheNameIsHeard)
 {
-    EXPECT_EQ(await({started, finishedFor({""})}, "x"_ba), std::nullopt);
-    EXPECT_EQ(await({started, finishedFor({""}), finishedFor({"", "x"})}, "x"_ba), std::nullopt);
-    EXPECT_EQ(await({started, finishedFor({"", "y"}), started, finishedFor({"", "x"})}, "x"_ba), begun);
-    EXPECT_EQ(await({started, finishedFor({"y"})}), begun);
+    m_heard = begun - 2s;
+    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun - 10s) << "another scan has found it";
+    m_service.lastScans = {begun - 1s};
+    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun - 11s) << "found before that one";
+    m_heard = begun + 1s;
+    EXPECT_EQ(await({started, finishedFor({""})}, "x"_ba), begun) << "it need not have asked for it";
 }
 
-TEST_F(AwaitScanTest, asksAgainWhereTheRunningScanMadeTheRequestForgotten)
+TEST_F(AwaitScanTest, aScanForANameAsksTwiceBeforeItGivesUp)
 {
-    m_service.first = ScanTrigger::alreadyRunning;
-    EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun);
+    const auto toOther = finishedFor({"", "y"});
+    const auto toX = finishedFor({"", "x"});
+    m_service.lastScans = {begun - 20s};
+    EXPECT_EQ(await({started, toX, started, toX}, "x"_ba), begun);
     EXPECT_EQ(m_service.requests.size(), 2U);
+    EXPECT_EQ(await({started, toX, started, toOther, toX}, "x"_ba), std::nullopt);
+    m_service.requests.clear();
+    EXPECT_EQ(await({started, toOther, started, aborted, started, toX, started, toX}, "x"_ba), begun);
+    EXPECT_EQ(m_service.requests.size(), 4U) << "asked for anew after each that did not ask";
+    EXPECT_EQ(await({started, finishedFor({"y"})}), begun);
 }
 
 TEST_F(AwaitScanTest, anAbortedScanAnswersNothing)
@@ -160,19 +170,19 @@ TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
 TEST_F(AwaitScanTest, aRefusalOrLostEventsEndTheWait)
 {
     ScriptedEvents events({started, finished});
-    m_service.first = Error{u"refused"_s};
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}).error().description, u"refused"_s);
+    m_service.refusal = Error{u"refused"_s};
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).error().description, u"refused"_s);
     EXPECT_TRUE(events.deadlines.empty());
 
-    m_service.requests = {std::nullopt};
+    m_service.refusal.reset();
     events.failure = Error{u"lost"_s};
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}).error().description, u"lost"_s);
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).error().description, u"lost"_s);
 }
 
 TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
 {
     ScriptedEvents events({started, aborted, started, finished});
-    EXPECT_TRUE(awaitScan(m_service, events, begun, {}).ok());
+    EXPECT_TRUE(awaitScan(m_service, events, begun, {}, {}).ok());
     ASSERT_EQ(events.deadlines.size(), 4U);
     EXPECT_EQ(events.deadlines[1] - events.deadlines[0], 15s);
     EXPECT_EQ(events.deadlines[3], events.deadlines[1]);
@@ -182,7 +192,7 @@ TEST_F(AwaitScanTest, withoutEventsANewLastScanIsTheSign)
 {
     m_service.lastScans = {begun - 5s, begun - 5s, begun - 5s, begun + 2s};
     LastScanEvents events(m_service, 0ms);
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}).value(), begun);
+    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).value(), begun);
     EXPECT_EQ(events.wait({}).value(), std::nullopt) << "nothing new before the deadline";
 }
 

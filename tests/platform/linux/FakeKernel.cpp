@@ -11,7 +11,6 @@ using nl80211::BssEntry;
 using nl80211::InterfaceInfo;
 using nl80211::ScanEvent;
 using nl80211::ScanStage;
-using nl80211::ScanTrigger;
 
 namespace {
 
@@ -88,15 +87,15 @@ Result<QList<BssEntry>> FakeKernel::bssEntries(std::uint32_t)
     return entries;
 }
 
-Result<ScanTrigger> FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)
+Failure FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)
 {
     if (triggerRefusal) {
-        return *triggerRefusal;
+        return triggerRefusal;
     }
     for (const auto stage : triggeredEvents) {
         tell(stage);
     }
-    return ScanTrigger::started;
+    return {};
 }
 
 Result<std::shared_ptr<nl80211::ScanEvents>> FakeKernel::scanEvents(std::uint32_t)

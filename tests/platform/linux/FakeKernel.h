@@ -24,8 +24,8 @@ public:
     [[nodiscard]] Result<QList<nl80211::InterfaceInfo>> interfaces() override;
     [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t radio) override;
     [[nodiscard]] Result<QList<nl80211::BssEntry>> bssEntries(std::uint32_t interfaceIndex) override;
-    [[nodiscard]] Result<nl80211::ScanTrigger> triggerScan(std::uint32_t interfaceIndex,
-                                                           const std::optional<QByteArray>& ssid) override;
+    [[nodiscard]] Failure triggerScan(std::uint32_t interfaceIndex,
+                                      const std::optional<QByteArray>& ssid) override;
     [[nodiscard]] Result<std::shared_ptr<nl80211::ScanEvents>>
     scanEvents(std::uint32_t interfaceIndex) override;
 

@@ -133,8 +133,7 @@ public:
                                      addAttributes, &decodeBssEntries);
     }
 
-    Result<ScanTrigger> triggerScan(std::uint32_t interfaceIndex,
-                                    const std::optional<QByteArray>& ssid) override
+    Failure triggerScan(std::uint32_t interfaceIndex, const std::optional<QByteArray>& ssid) override
     {
         constexpr qsizetype longestSsid = 32;
         const QByteArray name = ssid.value_or(QByteArray());
@@ -158,9 +157,8 @@ public:
         }
         switch (reply.value().errorNumber) {
         case 0:
-            return ScanTrigger::started;
         case EBUSY:
-            return ScanTrigger::alreadyRunning;
+            return {};
         default:
             return refusal("A scan cannot be started"_L1, reply.value().errorNumber);
         }

@@ -33,12 +33,6 @@ public:
     [[nodiscard]] virtual Result<std::optional<ScanEvent>> wait(Deadline deadline) = 0;
 };
 
-enum class ScanTrigger
-{
-    started,
-    alreadyRunning
-};
-
 /// The kernel's Wi-Fi configuration interface. Any thread, also several at once. Every operation asks the
 /// kernel anew and blocks for the length of a local request, at most a few seconds.
 class Nl80211
@@ -58,10 +52,10 @@ public:
     /// Everything in the kernel's list of access points heard lately. Needs no privilege.
     [[nodiscard]] virtual Result<QList<BssEntry>> bssEntries(std::uint32_t interfaceIndex) = 0;
 
-    /// Starts a scan that asks for this name, or for any; returns without waiting for its end. Needs a
-    /// privilege that users do not have: the error then says so.
-    [[nodiscard]] virtual Result<ScanTrigger> triggerScan(std::uint32_t interfaceIndex,
-                                                          const std::optional<QByteArray>& ssid) = 0;
+    /// Starts a scan that asks for this name, or for any, unless another is under way; returns without
+    /// waiting for its end. Needs a privilege that users do not have: the error then says so.
+    [[nodiscard]] virtual Failure triggerScan(std::uint32_t interfaceIndex,
+                                              const std::optional<QByteArray>& ssid) = 0;
 
     /// Needs no privilege.
     [[nodiscard]] virtual Result<std::shared_ptr<ScanEvents>> scanEvents(std::uint32_t interfaceIndex) = 0;
