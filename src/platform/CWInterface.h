@@ -55,6 +55,20 @@ public:
     /// the scan, up to half a minute.
     [[nodiscard]] virtual Result<QList<CWNetwork>>
     scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) = 0;
+
+    /// Joins the network and waits for the outcome: nothing once the machine is joined and has its address
+    /// there; else the error, which tells a wrong password, a network out of reach, a missing permission and
+    /// a time-out apart. `network` is one that a scan has found; the join goes by its name and kind, its
+    /// access point is only where to begin. `password` is as the user typed it; absent or empty means the one
+    /// that the system has stored for the network, if any. A failed join leaves no profile and no password
+    /// behind, and what was stored before stays as it was.
+    ///
+    /// Blocks for up to a minute, after the time that the user takes where the system first wants to know who
+    /// asks. On the main thread windows repaint meanwhile, timers and posted tasks run, and the user's input
+    /// waits until the end: what the caller refers to may have changed by then. Quitting the application ends
+    /// the join, with an error.
+    [[nodiscard]] virtual Failure associateToNetwork(const CWNetwork& network,
+                                                     const std::optional<QString>& password) = 0;
 };
 
 } // namespace aerolith

@@ -40,8 +40,8 @@ public:
     /// References to what this object owns.
     [[nodiscard]] virtual DesktopServices desktopServices() = 0;
 
-    /// Ends the scans that are under way, and every later one, as soon as the platform can: to be called
-    /// before the engine is destroyed, which waits for its scan. Any thread.
+    /// Ends the scans and joins that are under way, and every later one, as soon as the platform can: to be
+    /// called before the engine is destroyed, which waits for its scan. Any thread.
     virtual void stopScanning() = 0;
 };
 

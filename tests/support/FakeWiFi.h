@@ -47,6 +47,11 @@ public:
     [[nodiscard]] Result<QList<CWNetwork>>
     scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) override;
 
+    [[nodiscard]] Failure associateToNetwork(const CWNetwork&, const std::optional<QString>&) override
+    {
+        return {};
+    }
+
 private:
     FakeAir& m_air;
 };

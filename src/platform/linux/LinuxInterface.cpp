@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxInterface.h"
 
+#include "platform/linux/InterfaceJoin.h"
 #include "platform/linux/InterfaceScan.h"
 #include "platform/linux/RadioSwitch.h"
 #include "platform/linux/ieee80211/Ssid.h"
@@ -94,6 +95,11 @@ Failure LinuxInterface::setPower(bool on)
 Result<QList<CWNetwork>> LinuxInterface::scanForNetworksWithSSID(const std::optional<QByteArray>& ssid)
 {
     return scanInterface(*m_wireless, m_name, ssid);
+}
+
+Failure LinuxInterface::associateToNetwork(const CWNetwork& network, const std::optional<QString>& password)
+{
+    return joinNetwork(*m_wireless, m_name, network, password);
 }
 
 std::optional<nl80211::InterfaceInfo> LinuxInterface::info() const

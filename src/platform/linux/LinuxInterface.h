@@ -8,7 +8,7 @@
 namespace aerolith {
 
 /// One Wi-Fi interface, by its kernel name. What it hears and what it is joined to is read from the kernel;
-/// NetworkManager, where it runs, is asked for scans and switches the radio.
+/// NetworkManager, where it runs, is asked for scans, joins networks and switches the radio.
 class LinuxInterface : public CWInterface
 {
 public:
@@ -24,6 +24,8 @@ public:
     [[nodiscard]] Failure setPower(bool on) override;
     [[nodiscard]] Result<QList<CWNetwork>>
     scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) override;
+    [[nodiscard]] Failure associateToNetwork(const CWNetwork& network,
+                                             const std::optional<QString>& password) override;
 
 private:
     [[nodiscard]] std::optional<nl80211::InterfaceInfo> info() const;

@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] std::shared_ptr<CWInterface> interface() override;
 
-    /// Ends the scans that are under way, and every later one, at once; they fail. Any thread.
+    /// Ends the scans and joins that are under way, and every later one, at once; they fail. Any thread.
     void stopScanning();
 
 private:

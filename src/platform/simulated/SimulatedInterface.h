@@ -46,7 +46,7 @@ public:
     /// Joins a network by name: the password must be the one that the scenario lists for it, if it lists one.
     /// The machine stays joined to it through all later cycles.
     [[nodiscard]] Failure associateToNetwork(const CWNetwork& network,
-                                             const std::optional<QString>& password);
+                                             const std::optional<QString>& password) override;
 
     /// A switch outside the program: it is never refused.
     void switchPower(bool on);

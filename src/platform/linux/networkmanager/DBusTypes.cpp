@@ -22,6 +22,7 @@ void registerDBusTypes()
 {
     [[maybe_unused]] static const bool registered = [] {
         qDBusRegisterMetaType<PermissionMap>();
+        qDBusRegisterMetaType<ConnectionSettings>();
         qDBusRegisterMetaType<DeviceStateReason>();
         qDBusRegisterMetaType<QList<QByteArray>>();
         return true;

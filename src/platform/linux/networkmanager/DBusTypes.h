@@ -11,6 +11,9 @@
 /// Permission by name: "yes", "auth", "no" or "unknown".
 using PermissionMap = QMap<QString, QString>;
 
+/// A connection profile: its settings by section and name.
+using ConnectionSettings = QMap<QString, QVariantMap>;
+
 /// D-Bus "(uu)".
 struct DeviceStateReason
 {

@@ -1,5 +1,6 @@
 #include "platform/linux/networkmanager/NetworkManager.h"
 
+#include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 
 #include <QDBusConnectionInterface>
@@ -23,44 +24,8 @@ using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
 using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
 
-constexpr int callTimeoutMilliseconds = 10'000;
 constexpr int switchTimeoutMilliseconds = 5'000;
 constexpr unsigned long switchPollMilliseconds = 50;
-
-// One per call: a proxy keeps the error of an earlier call after a later one that succeeded.
-template <typename Proxy>
-class Call
-{
-public:
-    Call(const BusConnection& bus, const QString& path)
-        : m_proxy(NetworkManager::serviceName, path, bus.connection())
-    {
-        m_proxy.setTimeout(callTimeoutMilliseconds);
-    }
-
-    Proxy& proxy() { return m_proxy; }
-
-    /// Only after a property was read or written.
-    [[nodiscard]] std::optional<RemoteError> failure() const
-    {
-        const auto error = m_proxy.lastError();
-        return error.isValid() ? std::optional(remoteError(error)) : std::nullopt;
-    }
-
-private:
-    Proxy m_proxy;
-};
-
-template <typename Value, typename Proxy>
-Result<Value> read(const BusConnection& bus, const QString& path, Value (Proxy::*getter)() const)
-{
-    Call<Proxy> call(bus, path);
-    auto value = (call.proxy().*getter)();
-    if (const auto failure = call.failure()) {
-        return failure->error();
-    }
-    return value;
-}
 
 } // namespace
 
@@ -170,6 +135,38 @@ Result<std::optional<QString>> NetworkManager::activeAccessPointAddress(const QS
         return address.error();
     }
     return std::optional(address.value().toLower());
+}
+
+Result<std::optional<QString>> NetworkManager::accessPoint(const QString& devicePath, const QString& address,
+                                                           const QByteArray& ssid) const
+{
+    Call<WirelessProxy> call(m_bus, devicePath);
+    auto paths = call.proxy().GetAllAccessPoints();
+    paths.waitForFinished();
+    if (paths.isError()) {
+        return remoteError(paths.error()).error();
+    }
+    std::optional<QString> sameName;
+    for (const auto& path : paths.value()) {
+        // One that has gone meanwhile is not the one.
+        const auto name = read(m_bus, path.path(), &AccessPointProxy::ssid);
+        if (!name.ok() || name.value() != ssid) {
+            continue;
+        }
+        sameName = path.path();
+        const auto heard = read(m_bus, path.path(), &AccessPointProxy::hwAddress);
+        if (heard.ok() && heard.value().toLower() == address) {
+            break;
+        }
+    }
+    return sameName;
+}
+
+void NetworkManager::deactivate(const QString& activePath) const
+{
+    Call<ManagerProxy> call(m_bus, objectPath);
+    // One that has ended meanwhile cannot be ended.
+    call.proxy().DeactivateConnection(QDBusObjectPath(activePath)).waitForFinished();
 }
 
 QVariantMap scanOptions(const std::optional<QByteArray>& ssid)

@@ -30,6 +30,8 @@ enum class DeviceState : quint32
     unmanaged = 10,
     unavailable = 20,
     disconnected = 30,
+    preparing = 40,
+    gettingAddress = 70,
     activated = 100,
     deactivating = 110,
     failed = 120,
@@ -82,6 +84,16 @@ public:
     /// What NetworkManager says is the address of the access point that the device is joined to, lower case;
     /// absent when it names none.
     [[nodiscard]] Result<std::optional<QString>> activeAccessPointAddress(const QString& devicePath) const;
+
+    /// The object of the access point with that address and name, else of any with that name; absent when
+    /// NetworkManager has heard none.
+    [[nodiscard]] Result<std::optional<QString>>
+    accessPoint(const QString& devicePath, const QString& address, const QByteArray& ssid) const;
+
+    /// Ends an active connection, by its object; returns before it has ended.
+    void deactivate(const QString& activePath) const;
+
+    [[nodiscard]] const BusConnection& bus() const { return m_bus; }
 
 private:
     BusConnection m_bus;

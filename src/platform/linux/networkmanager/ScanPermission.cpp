@@ -1,11 +1,11 @@
 #include "platform/linux/networkmanager/ScanPermission.h"
 
 #include "platform/linux/networkmanager/DBusTypes.h"
+#include "platform/linux/networkmanager/InteractiveCall.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
 #include "platform/linux/networkmanager/RemoteError.h"
 
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
@@ -24,17 +24,6 @@ constexpr int firstReadTimeoutMilliseconds = 1'000;
 constexpr int readTimeoutMilliseconds = 25'000;
 // As long as the user takes to find the password; in D-Bus the largest value means no limit.
 constexpr int askTimeoutMilliseconds = std::numeric_limits<int>::max();
-
-QDBusMessage interactiveScanRequest(const QString& devicePath)
-{
-    auto message = QDBusMessage::createMethodCall(
-        NetworkManager::serviceName, devicePath,
-        QString::fromLatin1(OrgFreedesktopNetworkManagerDeviceWirelessInterface::staticInterfaceName()),
-        u"RequestScan"_s);
-    message.setArguments({scanOptions({})});
-    message.setInteractiveAuthorizationAllowed(true);
-    return message;
-}
 
 } // namespace
 
@@ -85,7 +74,9 @@ void ScanPermission::askDevices(const QStringList& paths)
         decide(true);
         return;
     }
-    const auto message = interactiveScanRequest(paths.first());
+    const auto message = interactiveCall(
+        paths.first(), OrgFreedesktopNetworkManagerDeviceWirelessInterface::staticInterfaceName(),
+        u"RequestScan"_s, {scanOptions({})});
     watch(m_bus.connection().asyncCall(message, askTimeoutMilliseconds),
           [this, others = paths.mid(1)](const QDBusPendingCall& call) {
               if (!call.isError()) {

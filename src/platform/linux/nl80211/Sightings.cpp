@@ -42,6 +42,11 @@ bool haveOneAddress(const Candidate& left, const Candidate& right)
     return left.entry->address == right.entry->address;
 }
 
+bool namesNothing(const QByteArray& elements)
+{
+    return !elements.isEmpty() && ieee80211::ssidBytes(bytesOf(elements)).isEmpty();
+}
+
 } // namespace
 
 QList<CWNetwork> sightings(const QList<BssEntry>& entries, BootTime scanStarted, BootTime dumped,
@@ -67,6 +72,14 @@ QList<CWNetwork> sightings(const QList<BssEntry>& entries, BootTime scanStarted,
         networks.append(networkFromEntry(*candidate.entry));
     }
     return networks;
+}
+
+bool hidesName(const QList<BssEntry>& entries, const QString& address)
+{
+    return std::ranges::any_of(entries, [&](const BssEntry& entry) {
+        return entry.address && ieee80211::addressText(*entry.address) == address &&
+               (namesNothing(entry.elements) || namesNothing(entry.beaconElements));
+    });
 }
 
 } // namespace aerolith::nl80211

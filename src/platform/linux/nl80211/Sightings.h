@@ -18,4 +18,8 @@ namespace aerolith::nl80211 {
 [[nodiscard]] QList<CWNetwork> sightings(const QList<BssEntry>& entries, BootTime scanStarted,
                                          BootTime dumped, const std::optional<QByteArray>& ssid);
 
+/// Whether the access point of that address, in the form of CWNetwork::bssid, keeps its name out of its
+/// beacons.
+[[nodiscard]] bool hidesName(const QList<BssEntry>& entries, const QString& address);
+
 } // namespace aerolith::nl80211

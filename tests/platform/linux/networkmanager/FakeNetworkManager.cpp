@@ -1,7 +1,5 @@
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
 
-#include "platform/linux/networkmanager/DBusTypes.h"
-
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -40,6 +38,9 @@ QString nameOf(const QDBusMessage& call)
 const QString FakeNetworkManager::devicePath = u"/org/freedesktop/NetworkManager/Devices/2"_s;
 const QString FakeNetworkManager::accessPointPath = u"/org/freedesktop/NetworkManager/AccessPoint/7"_s;
 
+const QString FakeNetworkManager::activePath = u"/org/freedesktop/NetworkManager/ActiveConnection/4"_s;
+const QString FakeNetworkManager::newProfilePath = u"/org/freedesktop/NetworkManager/Settings/9"_s;
+
 FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
     : m_connectionName(uniqueConnectionName())
     , m_properties{{u"NetworkManager.WirelessEnabled"_s, true},
@@ -47,7 +48,9 @@ FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
                    {u"Device.StateReason"_s, QVariant::fromValue(DeviceStateReason{30, 0})},
                    {u"Wireless.LastScan"_s, qlonglong{-1}},
                    {u"Wireless.ActiveAccessPoint"_s, QVariant::fromValue(QDBusObjectPath(u"/"_s))},
-                   {u"AccessPoint.HwAddress"_s, u"02:00:00:00:07:00"_s}}
+                   {u"Device.AvailableConnections"_s, QVariant::fromValue(QList<QDBusObjectPath>())},
+                   {u"AccessPoint.HwAddress"_s, u"02:00:00:00:07:00"_s},
+                   {u"AccessPoint.Ssid"_s, "home"_ba}}
     , m_permissions{{u"org.freedesktop.NetworkManager.wifi.scan"_s, u"yes"_s},
                     {u"org.freedesktop.NetworkManager.enable-disable-wifi"_s, u"no"_s}}
 {
@@ -97,6 +100,64 @@ void FakeNetworkManager::emitCheckPermissions()
         QDBusConnection(m_connectionName)
             .send(QDBusMessage::createSignal(managerPath, managerInterface, u"CheckPermissions"_s));
     });
+}
+
+void FakeNetworkManager::setActivation(const QList<DeviceStateReason>& states, quint32 activeState)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_activationStates = states;
+    m_activeState = activeState;
+}
+
+void FakeNetworkManager::tell(const QString& path, const QString& interface, const QVariantList& arguments)
+{
+    auto signal = QDBusMessage::createSignal(path, interface, u"StateChanged"_s);
+    signal.setArguments(arguments);
+    QMetaObject::invokeMethod(this, [this, signal] { QDBusConnection(m_connectionName).send(signal); });
+}
+
+void FakeNetworkManager::tellDeviceState(DeviceStateReason state)
+{
+    tell(devicePath, u"org.freedesktop.NetworkManager.Device"_s, {state.state, 0U, state.reason});
+}
+
+void FakeNetworkManager::tellActiveState(quint32 state)
+{
+    tell(activePath, u"org.freedesktop.NetworkManager.Connection.Active"_s, {state, 0U});
+}
+
+void FakeNetworkManager::followActivation()
+{
+    QList<DeviceStateReason> states;
+    quint32 activeState = 0;
+    {
+        const QMutexLocker lock(&m_mutex);
+        states = m_activationStates;
+        activeState = m_activeState;
+    }
+    for (const auto& state : states) {
+        tellDeviceState(state);
+    }
+    if (activeState != 0) {
+        tellActiveState(activeState);
+    }
+}
+
+void FakeNetworkManager::askAgent(const QDBusMessage& call, const QString& profilePath, uint flags,
+                                  const std::function<void(const QString& error)>& answered)
+{
+    auto question =
+        QDBusMessage::createMethodCall(call.service(), u"/org/freedesktop/NetworkManager/SecretAgent"_s,
+                                       u"org.freedesktop.NetworkManager.SecretAgent"_s, u"GetSecrets"_s);
+    question.setArguments({QVariant::fromValue(ConnectionSettings()),
+                           QVariant::fromValue(QDBusObjectPath(profilePath)), u"802-11-wireless-security"_s,
+                           QStringList(), flags});
+    QMetaObject::invokeMethod(
+        this,
+        [this, question, answered] {
+            answered(QDBusConnection(m_connectionName).call(question).errorName());
+        },
+        Qt::QueuedConnection);
 }
 
 void FakeNetworkManager::setProperty(const QString& name, const QVariant& value)
@@ -180,6 +241,25 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
                    ? call.createReply(QVariant::fromValue(QDBusObjectPath(devicePath)))
                    : call.createErrorReply(u"org.freedesktop.NetworkManager.UnknownDevice"_s,
                                            u"No device found for the requested iface."_s);
+    }
+    if (member == u"GetAllAccessPoints"_s) {
+        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(accessPointPath)}));
+    }
+    if (member == u"AddAndActivateConnection2"_s || member == u"ActivateConnection"_s) {
+        // After the answer.
+        QMetaObject::invokeMethod(
+            this, [this] { followActivation(); }, Qt::QueuedConnection);
+        const auto active = QVariant::fromValue(QDBusObjectPath(activePath));
+        return member == u"ActivateConnection"_s
+                   ? call.createReply(active)
+                   : call.createReply(
+                         {QVariant::fromValue(QDBusObjectPath(newProfilePath)), active, QVariantMap()});
+    }
+    if (member == u"Update2"_s) {
+        return call.createReply(QVariantMap());
+    }
+    if (member == u"Register"_s || member == u"DeactivateConnection"_s) {
+        return call.createReply();
     }
     if (member == u"RequestScan"_s && call.path() == devicePath) {
         return call.createReply();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/networkmanager/DBusTypes.h"
+
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QHash>
@@ -24,6 +26,9 @@ public:
 
     static const QString devicePath;
     static const QString accessPointPath;
+    /// What every activation makes: an active connection, and a profile if it was to be a new one.
+    static const QString activePath;
+    static const QString newProfilePath;
 
     /// Stands on the bus until the end of the object, or of end().
     explicit FakeNetworkManager(const QString& busAddress);
@@ -35,6 +40,17 @@ public:
     /// The permission to scan; tells the bus that permissions have changed.
     void setScanPermission(const QString& permission);
     void emitCheckPermissions();
+
+    /// How activations go on once accepted: the device's states with their reasons, then that of the active
+    /// connection (2: activated, 4: deactivated).
+    void setActivation(const QList<DeviceStateReason>& states, quint32 activeState);
+    void tellDeviceState(DeviceStateReason state);
+    void tellActiveState(quint32 state);
+
+    /// Asks the secret agent of whoever sent `call` for the profile's secrets, on the next turn of the
+    /// service's own loop; hands on the name of the error that it answers with.
+    void askAgent(const QDBusMessage& call, const QString& profilePath, uint flags,
+                  const std::function<void(const QString& error)>& answered);
 
     /// By the last part of the interface's name and the property's, such as "Wireless.LastScan".
     void setProperty(const QString& name, const QVariant& value);
@@ -52,6 +68,8 @@ public:
 
 private:
     void leaveBus();
+    void tell(const QString& path, const QString& interface, const QVariantList& arguments);
+    void followActivation();
     [[nodiscard]] QDBusMessage answer(const QString& member, const QDBusMessage& call);
     [[nodiscard]] QDBusMessage usualAnswer(const QString& member, const QDBusMessage& call);
 
@@ -61,6 +79,8 @@ private:
     QMap<QString, QString> m_permissions;
     QHash<QString, Reaction> m_reactions;
     QList<std::pair<QString, QDBusMessage>> m_calls;
+    QList<DeviceStateReason> m_activationStates;
+    quint32 m_activeState = 2;
     QThread m_thread;
 };
 

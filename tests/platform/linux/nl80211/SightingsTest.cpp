@@ -83,6 +83,15 @@ TEST(Sightings, OfADirectedScanHaveThatName)
     EXPECT_EQ(seen(entries, "tea"), Lines());
 }
 
+TEST(HidesName, GoesByTheBeaconsOfThatAddress)
+{
+    BssEntry answered = heard(1, "cafe", started);
+    EXPECT_FALSE(hidesName({answered, heard(2, {}, started)}, QStringLiteral("02:00:00:00:00:01")));
+    EXPECT_TRUE(hidesName({answered, heard(1, {}, started)}, QStringLiteral("02:00:00:00:00:01")));
+    answered.beaconElements = test::element(0, QByteArray(4, '\0'));
+    EXPECT_TRUE(hidesName({answered}, QStringLiteral("02:00:00:00:00:01")));
+}
+
 TEST(Sightings, LeaveOutWhatHasNoAddress)
 {
     BssEntry nameless = heard(1, "a", started);

@@ -1,0 +1,164 @@
+#include "platform/linux/InterfaceJoin.h"
+
+#include "platform/Secret.h"
+#include "platform/linux/DeviceObstacle.h"
+#include "platform/linux/networkmanager/Activation.h"
+#include "platform/linux/networkmanager/JoinFailure.h"
+#include "platform/linux/networkmanager/JoinSettings.h"
+#include "platform/linux/networkmanager/NetworkManager.h"
+#include "platform/linux/networkmanager/StoredProfile.h"
+#include "platform/linux/nl80211/Sightings.h"
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using nl80211::BootTime;
+
+namespace {
+
+class Join
+{
+public:
+    Join(LinuxWireless& wireless, const NetworkManager& manager, QString interfaceName, QString devicePath,
+         const CWNetwork& network)
+        : m_wireless(wireless)
+        , m_manager(manager)
+        , m_interfaceName(std::move(interfaceName))
+        , m_devicePath(std::move(devicePath))
+        , m_network(network)
+        , m_accessPointPath(accessPoint())
+    {
+    }
+
+    [[nodiscard]] Failure run(const QString& password)
+    {
+        const auto stored = storedProfile(m_manager.bus(), m_devicePath, m_network.ssidData);
+        if (stored && password.isEmpty()) {
+            return activate(*stored);
+        }
+        const auto settings = joinSettings(m_network, isHidden(), password);
+        if (!settings.ok()) {
+            return settings.error();
+        }
+        // A login's profile has no place for a password that everybody shares.
+        if (!stored || stored->settings.contains(u"802-1x"_s)) {
+            return joinAndKeep(settings.value());
+        }
+        return hasPassword(m_manager.bus(), *stored, settings.value())
+                   ? activate(*stored)
+                   : replacePassword(*stored, settings.value());
+    }
+
+private:
+    [[nodiscard]] QString accessPoint() const
+    {
+        const auto path = m_manager.accessPoint(m_devicePath, *m_network.bssid, m_network.ssidData);
+        // The root path stands for "any".
+        return path.ok() ? path.value().value_or(u"/"_s) : u"/"_s;
+    }
+
+    [[nodiscard]] bool isHidden() const
+    {
+        return nl80211::hidesName(m_wireless.entries(m_interfaceName), *m_network.bssid);
+    }
+
+    [[nodiscard]] Failure activate(const StoredProfile& profile) const
+    {
+        const auto begun = nl80211::bootTimeNow();
+        Activation activation(m_manager, m_devicePath);
+        return failureOf(activation.activate(profile.path, m_accessPointPath, m_wireless.stopped), begun);
+    }
+
+    [[nodiscard]] Failure joinAndKeep(const ConnectionSettings& settings) const
+    {
+        const auto begun = nl80211::bootTimeNow();
+        Activation activation(m_manager, m_devicePath);
+        const auto end = activation.activateNew(settings, m_accessPointPath, m_wireless.stopped);
+        if (auto failure = failureOf(end, begun)) {
+            return failure;
+        }
+        note(keepProfile(m_manager.bus(), end.profilePath));
+        return {};
+    }
+
+    [[nodiscard]] Failure replacePassword(const StoredProfile& stored,
+                                          const ConnectionSettings& settings) const
+    {
+        const auto begun = nl80211::bootTimeNow();
+        {
+            Activation proof(m_manager, m_devicePath);
+            const auto end = proof.activateNew(settings, m_accessPointPath, m_wireless.stopped);
+            if (auto failure = failureOf(end, begun)) {
+                return failure;
+            }
+        }
+        if (auto failure = storePassword(m_manager.bus(), stored, settings)) {
+            note(failure);
+            return {};
+        }
+        return activate(stored);
+    }
+
+    /// The machine is joined, but only until it leaves the network.
+    void note(const Failure& failure) const
+    {
+        if (failure) {
+            m_wireless.log.line(
+                u"The network's password could not be stored: %1"_s.arg(failure->description));
+        }
+    }
+
+    [[nodiscard]] Failure failureOf(const ActivationEnd& end, BootTime begun) const
+    {
+        if (end.outcome == ActivationOutcome::activated) {
+            return {};
+        }
+        if (end.outcome == ActivationOutcome::failed) {
+            // NetworkManager's reasons do not name these.
+            if (auto obstacle = deviceObstacle(m_manager, m_interfaceName)) {
+                return obstacle;
+            }
+        }
+        const auto stillHeard = m_wireless.isHeard(m_interfaceName, m_network.ssidData, begun);
+        return joinFailure(end, m_network, stillHeard);
+    }
+
+    LinuxWireless& m_wireless;
+    const NetworkManager& m_manager;
+    const QString m_interfaceName;
+    const QString m_devicePath;
+    const CWNetwork& m_network;
+    const QString m_accessPointPath;
+};
+
+} // namespace
+
+Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwork& network,
+                    const std::optional<QString>& password)
+{
+    if (!network.bssid || network.ssidData.isEmpty()) {
+        return Error{u"The network's name is not known"_s};
+    }
+    const auto info = wireless.interface(name);
+    if (!info.ok()) {
+        return info.error();
+    }
+    const NetworkManager manager(wireless.bus);
+    if (!manager.isRunning()) {
+        return Error{u"NetworkManager is not running"_s};
+    }
+    const auto device = manager.device(name);
+    if (!device.ok()) {
+        return device.error();
+    }
+    if (!device.value() || device.value()->state == DeviceState::unmanaged) {
+        return Error{u"NetworkManager does not manage the Wi-Fi interface %1"_s.arg(name)};
+    }
+    if (auto obstacle = deviceObstacle(manager, name)) {
+        return obstacle;
+    }
+    const Secret secret(password.value_or(QString()));
+    return Join(wireless, manager, name, device.value()->path, network).run(secret.text());
+}
+
+} // namespace aerolith

@@ -1,0 +1,159 @@
+#include "platform/linux/networkmanager/Activation.h"
+
+#include "platform/linux/networkmanager/InteractiveCall.h"
+
+#include <QDBusObjectPath>
+#include <QDBusPendingReply>
+#include <QTimer>
+
+#include <org.freedesktop.NetworkManager.Device.h>
+#include <org.freedesktop.NetworkManager.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// For the user to prove who they are, where the system asks.
+constexpr int answerTimeoutMilliseconds = 120'000;
+constexpr auto checkInterval = 100ms;
+
+constexpr auto managerInterface = &OrgFreedesktopNetworkManagerInterface::staticInterfaceName;
+
+/// NetworkManager's states of an active connection.
+constexpr uint activeActivated = 2;
+constexpr uint activeDeactivated = 4;
+
+} // namespace
+
+Activation::Activation(const NetworkManager& manager, const QString& devicePath,
+                       std::chrono::milliseconds timeLimit)
+    : m_manager(manager)
+    , m_devicePath(devicePath)
+    , m_timeLimit(timeLimit)
+    , m_agent(manager.bus())
+    , m_serviceWatcher(NetworkManager::serviceName, manager.bus().connection(),
+                       QDBusServiceWatcher::WatchForUnregistration)
+{
+    auto bus = m_manager.bus().connection();
+    bus.connect(NetworkManager::serviceName, m_devicePath,
+                QString::fromLatin1(OrgFreedesktopNetworkManagerDeviceInterface::staticInterfaceName()),
+                u"StateChanged"_s, this, SLOT(deviceStateChanged(uint, uint, uint)));
+    bus.connect(NetworkManager::serviceName, QString(), u"org.freedesktop.NetworkManager.Connection.Active"_s,
+                u"StateChanged"_s, this, SLOT(activeStateChanged(uint, uint, QDBusMessage)));
+    connect(&m_serviceWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { finish(ActivationOutcome::vanished); });
+}
+
+ActivationEnd Activation::activate(const QString& profilePath, const QString& accessPointPath,
+                                   const std::atomic<bool>& stopped)
+{
+    m_end.profilePath = profilePath;
+    m_agent.setProfile(profilePath);
+    return follow(interactiveCall(NetworkManager::objectPath, managerInterface(), u"ActivateConnection"_s,
+                                  {QVariant::fromValue(QDBusObjectPath(profilePath)),
+                                   QVariant::fromValue(QDBusObjectPath(m_devicePath)),
+                                   QVariant::fromValue(QDBusObjectPath(accessPointPath))}),
+                  stopped);
+}
+
+ActivationEnd Activation::activateNew(const ConnectionSettings& settings, const QString& accessPointPath,
+                                      const std::atomic<bool>& stopped)
+{
+    return follow(
+        interactiveCall(NetworkManager::objectPath, managerInterface(), u"AddAndActivateConnection2"_s,
+                        {QVariant::fromValue(settings), QVariant::fromValue(QDBusObjectPath(m_devicePath)),
+                         QVariant::fromValue(QDBusObjectPath(accessPointPath)),
+                         QVariantMap{{u"persist"_s, u"volatile"_s}}}),
+        stopped);
+}
+
+ActivationEnd Activation::follow(const QDBusMessage& request, const std::atomic<bool>& stopped)
+{
+    QDBusPendingCallWatcher answer(
+        m_manager.bus().connection().asyncCall(request, answerTimeoutMilliseconds));
+    connect(&answer, &QDBusPendingCallWatcher::finished, this, [this, &answer] { take(answer); });
+    QTimer check;
+    connect(&check, &QTimer::timeout, this, [this, &stopped] {
+        if (stopped) {
+            finish(ActivationOutcome::stopped);
+        } else if (m_deadline.hasExpired()) {
+            finish(ActivationOutcome::outOfTime);
+        }
+    });
+    check.start(checkInterval);
+    // Also returns when the application quits.
+    m_loop.exec(QEventLoop::ExcludeUserInputEvents);
+    const auto goesOn =
+        m_end.outcome == ActivationOutcome::outOfTime || m_end.outcome == ActivationOutcome::stopped;
+    if (goesOn && !m_end.activePath.isEmpty()) {
+        m_manager.deactivate(m_end.activePath);
+    }
+    return m_end;
+}
+
+void Activation::take(const QDBusPendingCall& answer)
+{
+    if (answer.isError()) {
+        m_end.refusal = remoteError(answer.error());
+        finish(ActivationOutcome::refused);
+        return;
+    }
+    // A new profile's answer is the profile and the active connection, a stored one's the latter alone.
+    QStringList paths;
+    for (const auto& argument : answer.reply().arguments()) {
+        if (const auto path = argument.value<QDBusObjectPath>().path(); !path.isEmpty()) {
+            paths.append(path);
+        }
+    }
+    if (paths.isEmpty()) {
+        m_end.refusal = {RemoteFailure::wrongAnswer, u"NetworkManager gave an answer of a wrong type"_s};
+        finish(ActivationOutcome::refused);
+        return;
+    }
+    m_end.activePath = paths.last();
+    if (paths.size() > 1) {
+        m_end.profilePath = paths.first();
+        m_agent.setProfile(m_end.profilePath);
+    }
+    m_deadline.setRemainingTime(m_timeLimit);
+    checkEnd();
+}
+
+void Activation::deviceStateChanged(uint state, uint /*oldState*/, uint reason)
+{
+    m_end.state = static_cast<DeviceState>(state);
+    if (m_end.state == DeviceState::preparing) {
+        // What came before was the end of an earlier connection.
+        m_end.reason = 0;
+    } else if (reason != 0 &&
+               (m_end.state < DeviceState::preparing || m_end.state > DeviceState::activated)) {
+        m_end.reason = reason;
+    }
+}
+
+void Activation::activeStateChanged(uint state, uint /*reason*/, const QDBusMessage& signal)
+{
+    m_activeStates[signal.path()] = state;
+    checkEnd();
+}
+
+void Activation::checkEnd()
+{
+    const auto state = m_activeStates.value(m_end.activePath);
+    if (state == activeActivated) {
+        finish(ActivationOutcome::activated);
+    } else if (state == activeDeactivated) {
+        finish(ActivationOutcome::failed);
+    }
+}
+
+void Activation::finish(ActivationOutcome outcome)
+{
+    m_end.outcome = outcome;
+    m_loop.quit();
+}
+
+} // namespace aerolith

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "platform/linux/networkmanager/DBusTypes.h"
+#include "platform/linux/networkmanager/DecliningAgent.h"
+#include "platform/linux/networkmanager/NetworkManager.h"
+#include "platform/linux/networkmanager/RemoteError.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <chrono>
+
+namespace aerolith {
+
+enum class ActivationOutcome
+{
+    activated,
+    /// NetworkManager gave up, or somebody made it.
+    failed,
+    /// The request was not accepted.
+    refused,
+    outOfTime,
+    stopped,
+    /// NetworkManager has left the bus.
+    vanished,
+};
+
+struct ActivationEnd
+{
+    ActivationOutcome outcome = ActivationOutcome::stopped;
+    /// Only where refused.
+    RemoteError refusal = {};
+    /// The newest state of the device, and why it left the road to `activated`, as NetworkManager numbers the
+    /// reasons.
+    DeviceState state = DeviceState::unknown;
+    quint32 reason = 0;
+    /// The objects of the profile and of the active connection; empty where NetworkManager made none.
+    QString profilePath = {};
+    QString activePath = {};
+};
+
+/// One activation of a connection profile on one device, followed from its request to its end. Lives on one
+/// thread.
+class Activation : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// NetworkManager gives the access point 25 seconds and then the network's DHCP server 45; a person who
+    /// waits for both is not served.
+    static constexpr std::chrono::milliseconds usualTimeLimit = std::chrono::seconds(60);
+
+    /// Watches the device from here on. `manager` outlives this object.
+    Activation(const NetworkManager& manager, const QString& devicePath,
+               std::chrono::milliseconds timeLimit = usualTimeLimit);
+
+    /// Activates a stored profile, or a new one that vanishes unless the activation succeeds and the profile
+    /// is then kept. `accessPointPath` may be the root path, for any.
+    ///
+    /// Blocks until the outcome is there, the time limit after NetworkManager has accepted the request at the
+    /// latest, or until `stopped` is set or the application quits; what NetworkManager is still at then is
+    /// ended. Meanwhile the thread handles its events, all but the user's input. To be called once.
+    [[nodiscard]] ActivationEnd activate(const QString& profilePath, const QString& accessPointPath,
+                                         const std::atomic<bool>& stopped);
+    [[nodiscard]] ActivationEnd activateNew(const ConnectionSettings& settings,
+                                            const QString& accessPointPath, const std::atomic<bool>& stopped);
+
+private Q_SLOTS:
+    void deviceStateChanged(uint state, uint oldState, uint reason);
+    void activeStateChanged(uint state, uint reason, const QDBusMessage& signal);
+
+private:
+    [[nodiscard]] ActivationEnd follow(const QDBusMessage& request, const std::atomic<bool>& stopped);
+    void take(const QDBusPendingCall& answer);
+    void checkEnd();
+    void finish(ActivationOutcome outcome);
+
+    const NetworkManager& m_manager;
+    const QString m_devicePath;
+    const std::chrono::milliseconds m_timeLimit;
+    DecliningAgent m_agent;
+    QDBusServiceWatcher m_serviceWatcher;
+    QEventLoop m_loop;
+    QDeadlineTimer m_deadline = QDeadlineTimer::Forever;
+    /// The newest state of every active connection that has changed: the answer, which says which is ours,
+    /// may come later.
+    QHash<QString, uint> m_activeStates;
+    ActivationEnd m_end;
+};
+
+} // namespace aerolith

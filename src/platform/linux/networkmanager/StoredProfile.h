@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "platform/linux/networkmanager/BusConnection.h"
+#include "platform/linux/networkmanager/DBusTypes.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace aerolith {
+
+/// A connection profile that the system keeps, without its secrets.
+struct StoredProfile
+{
+    QString path;
+    ConnectionSettings settings;
+};
+
+/// The profile for the network of that name that was used last, of those that NetworkManager could activate
+/// on the device now and that this user may see; absent where there is none.
+[[nodiscard]] std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
+                                                         const QByteArray& ssid);
+
+/// Whether `settings` hold no password but the one that the profile has; false where this user may not know
+/// that one.
+[[nodiscard]] bool hasPassword(const BusConnection& bus, const StoredProfile& profile,
+                               const ConnectionSettings& settings);
+
+/// Stores the password of `settings` in the profile, and leaves all else in it as it is.
+[[nodiscard]] Failure storePassword(const BusConnection& bus, const StoredProfile& profile,
+                                    const ConnectionSettings& settings);
+
+/// Keeps a new profile, by its object, that would vanish with its connection.
+[[nodiscard]] Failure keepProfile(const BusConnection& bus, const QString& path);
+
+} // namespace aerolith
