@@ -34,7 +34,7 @@ prepare_kernel "$cache"
 rm -rf "$results"
 mkdir -p "$results/plan"
 prepare_initrd "$cache" "$bed/guest/init" "$results/initrd.gz"
-python3 "$bed/judge/access_points.py" "$results/plan"
+python3 "$bed/judge/plans.py" "$scenario" "$results/plan"
 printf '%s=%q\n' BED "$bed" SCENARIO "$scenario" PROGRAM "$program" \
     MODULES "$cache/root/lib/modules/$(cat "$cache/release")" >"$results/bed.env"
 

@@ -116,6 +116,19 @@ start_access_points() {
     done
 }
 
+# serve_addresses: a DHCP server behind every access point, each with a network of its own.
+serve_addresses() {
+    local interface number=0 file
+    for interface in $(among_radios iw dev | awk '$1 == "Interface" {print $2}'); do
+        number=$((number + 1)) file=/run/udhcpd.$interface
+        among_radios ip address add "10.0.$number.1/24" dev "$interface"
+        printf '%s\n' "interface $interface" "start 10.0.$number.10" "end 10.0.$number.20" \
+            "option subnet 255.255.255.0" "lease_file $file.leases" "pidfile $file.pid" >"$file.conf"
+        touch "$file.leases"
+        among_radios busybox udhcpd -a 100 "$file.conf"
+    done
+}
+
 switch_off_access_point() { hostapd_asks "$1" disable >/dev/null; }
 
 station_state_is_at_least() { [ "$(nmcli -g GENERAL.STATE device show wlan0 | cut -d' ' -f1)" -ge "$1" ]; }
@@ -137,21 +150,22 @@ CONFIGURATION
     wait_for 90 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
 }
 
-scan_permission_is() { as_user nmcli -t general permissions | grep -q "wifi.scan:$1"; }
+permission_is() { as_user nmcli -t general permissions | grep -q "$1:$2"; }
 
-# permit yes|no|auth: what polkit answers when tester asks NetworkManager for anything; "auth" is polkit's own
-# default for a user without a login session.
+# permit yes|no|auth [yes|no]: what polkit answers when tester asks NetworkManager for a scan, and for anything else (the
+# same unless given); "auth" is polkit's own default for a user without a login session.
 permit() {
-    local rules=/etc/polkit-1/rules.d/40-tester.rules
+    local rules=/etc/polkit-1/rules.d/40-tester.rules others=${2:-$1}
     if [ "$1" = auth ]; then
         rm -f "$rules"
     else
         echo "polkit.addRule(function(action, subject) {
             if (subject.user == 'tester' && action.id.indexOf('org.freedesktop.NetworkManager.') == 0)
-                return polkit.Result.${1^^};
+                return /wifi.scan$/.test(action.id) ? polkit.Result.${1^^} : polkit.Result.${others^^};
         });" >"$rules"
     fi
-    wait_for 90 scan_permission_is "$1" || give_up "the permission to scan is not '$1'"
+    wait_for 90 permission_is wifi.scan "$1" && wait_for 90 permission_is network-control "$others" ||
+        give_up "the permissions are not '$*'"
 }
 
 # watch_scans: keeps the kernel's scan events, with their times, in /out/scans.txt, and what iw lists at the end of the

@@ -1,15 +1,16 @@
 """Judges what scenarios/scan.sh has left: run with the results folder; exit status 1 when there is a fault."""
 
-import json
 import re
 import sys
 from datetime import datetime
 from pathlib import Path
 
-import access_points
 import iw_dump
+from access_points import bssid as bssid_of
 from compare import NOISE, compare, print_table
+from plans import SCAN
 from scans import Scans
+from steps import Faults, Step
 
 MISSED = -100  # dBm; a sample of a cycle in which the access point was not heard
 TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
@@ -28,36 +29,6 @@ def unix_time(stamped: dict) -> float:
     return datetime.fromisoformat(stamped["timestamp"].replace("Z", "+00:00")).timestamp()
 
 
-class Faults:
-    """Collects what is wrong and prints each at once."""
-
-    def __init__(self) -> None:
-        self.count = 0
-
-    def expect(self, holds: bool, fault: str) -> bool:
-        if not holds:
-            self.count += 1
-            print(f"FAULT: {fault}")
-        return holds
-
-
-class Step:
-    """One observed run of the program."""
-
-    def __init__(self, results: Path, name: str) -> None:
-        self.name, self.folder = name, results / name
-        self.begun, self.ended = (float(self.text(mark)) for mark in ("begun", "ended"))
-        self.status = int(self.text("status"))
-        self.message = (self.text("stderr").strip().splitlines() or [""])[-1]
-        self.entries = iw_dump.newest_of_each(iw_dump.parse(self.text("iw.txt")))
-
-    def text(self, name: str) -> str:
-        return (self.folder / name).read_text(encoding="utf-8", errors="replace")
-
-    def document(self, name: str):
-        return json.loads(self.text(name))
-
-
 def judge_refusals(results: Path, faults: Faults) -> None:
     messages = {}
     for name, (status, pattern) in REFUSALS.items():
@@ -72,7 +43,7 @@ def judge_refusals(results: Path, faults: Faults) -> None:
 
 def judge_making(entries: dict[str, iw_dump.Entry], faults: Faults) -> None:
     """Whether every access point is on the air as the table has it: the bed itself, not the program."""
-    for bssid, radio, made in access_points.every_access_point():
+    for bssid, radio, made in SCAN.every_access_point():
         if not faults.expect(bssid in entries, f"{bssid} {made.ssid!r} is not on the air"):
             continue
         entry = entries[bssid]
@@ -102,7 +73,7 @@ def judge_list(step: Step, scans: Scans, faults: Faults) -> list[dict]:
 
 def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults) -> None:
     """Each access point's details: the list's record, with a history that fits it and the kernel's scans."""
-    leaving, _ = access_points.radio_of_role("leaving")
+    leaving, _ = SCAN.radio_of_role("leaving")
     checked = samples = 0
     for record in records:
         bssid = record["bssid"]
@@ -119,7 +90,7 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
         heard = [sample for sample in history if sample["rssi"] != MISSED]
         faults.expect({sample["rssi"] for sample in heard} == {record["rssi"]}, f"{bssid}: history {signals}")
         faults.expect(bool(heard) and heard[-1]["timestamp"] == record["timestamp"], f"{bssid}: last heard when?")
-        if bssid == access_points.bssid(leaving, 0):
+        if bssid == bssid_of(leaving, 0):
             gone = signals.index(MISSED) if MISSED in signals else len(signals)
             faults.expect(0 < gone < len(signals) and set(signals[gone:]) == {MISSED},
                           f"{bssid} was switched off between two cycles, its history is {signals}")
@@ -152,7 +123,7 @@ def judge_survey(results: Path, scans: Scans, faults: Faults) -> None:
     records = judge_list(step, scans, faults)
     judge_making(step.entries, faults)
     listed = {record["bssid"] for record in records}
-    named = {bssid for bssid, _, made in access_points.every_access_point() if not made.hidden}
+    named = {bssid for bssid, _, made in SCAN.every_access_point() if not made.hidden}
     faults.expect(listed == named, f"listed and made access points differ: {sorted(listed ^ named)}")
     judge_details(step, records, scans, faults)
 
@@ -160,9 +131,9 @@ def judge_survey(results: Path, scans: Scans, faults: Faults) -> None:
 def judge_joined(results: Path, scans: Scans, faults: Faults) -> None:
     step = Step(results, "joined")
     records = judge_list(step, scans, faults)
-    number, _ = access_points.radio_of_role("joined")
+    number, _ = SCAN.radio_of_role("joined")
     current = [record["bssid"] for record in records if record["isCurrentNetwork"]]
-    faults.expect(current == [access_points.bssid(number, 0)], f"marked as current: {current}")
+    faults.expect(current == [bssid_of(number, 0)], f"marked as current: {current}")
     started = scans.first_ending_after(step.begun).started
     for record in records:
         entry = step.entries.get(record["bssid"])

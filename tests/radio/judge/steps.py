@@ -1,0 +1,36 @@
+"""What a scenario has left of each step, and the faults that a judge finds."""
+
+import json
+from pathlib import Path
+
+import iw_dump
+
+
+class Faults:
+    """Collects what is wrong and prints each at once."""
+
+    def __init__(self) -> None:
+        self.count = 0
+
+    def expect(self, holds: bool, fault: str) -> bool:
+        if not holds:
+            self.count += 1
+            print(f"FAULT: {fault}")
+        return holds
+
+
+class Step:
+    """One observed run of the program."""
+
+    def __init__(self, results: Path, name: str) -> None:
+        self.name, self.folder = name, results / name
+        self.begun, self.ended = (float(self.text(mark)) for mark in ("begun", "ended"))
+        self.status = int(self.text("status"))
+        self.message = (self.text("stderr").strip().splitlines() or [""])[-1]
+        self.entries = iw_dump.newest_of_each(iw_dump.parse(self.text("iw.txt")))
+
+    def text(self, name: str) -> str:
+        return (self.folder / name).read_text(encoding="utf-8", errors="replace")
+
+    def document(self, name: str):
+        return json.loads(self.text(name))

@@ -1,0 +1,77 @@
+# shellcheck shell=bash
+# Joining networks of every kind, every way in which that may fail, and what is left behind.
+# Sourced in the guest; judged on the host by judge/join.py.
+
+PROFILES=(/run/NetworkManager/system-connections /etc/NetworkManager/system-connections)
+
+# report NAME: what the machine is joined to, and every stored profile of a Wi-Fi network, in /out/NAME.
+report() {
+    iw dev wlan0 link >"/out/$1/link.txt"
+    find "${PROFILES[@]}" -name '*.nmconnection' -exec cat {} + >"/out/$1/profiles.txt"
+}
+
+station_is_settled() { [[ $(nmcli -g GENERAL.STATE device show wlan0) =~ ^(20|30|100)\  ]]; }
+no_profile_is_volatile() { ! compgen -G "${PROFILES[0]}/*.nmconnection"; }
+
+# join NAME SSID: an attempt to join with the password from standard input, and what it has left behind.
+join() {
+    wait_for 60 station_is_settled
+    observe "$1" 120 join "$2"
+    wait_for 10 no_profile_is_volatile # one that has failed goes a moment after its attempt
+    report "$1"
+}
+
+forget() {
+    nmcli -g UUID,TYPE connection show | sed -n 's/:802-11-wireless$//p' | xargs -r nmcli connection delete >/dev/null
+}
+
+join_and_forget() {
+    join "$@"
+    forget
+}
+
+switch_power() {
+    observe "power-$1" 60 power "$1"
+    cat /sys/class/net/wlan0/phy80211/rfkill*/soft >"/out/power-$1/blocked"
+}
+
+was_found() { grep -q found "/run/observed/$1/stdout"; }
+
+start_radios
+start_access_points
+serve_addresses
+start_network_manager
+permit yes
+
+join wpa2-wrong wpa2 <<<'wrong horse'
+join wpa2 wpa2 <<<"$PASSWORD"
+join stored-wrong wpa2 <<<'wrong horse'
+join stored wpa2 <<<''
+nmcli connection modify wpa2 wifi-sec.psk 'other horse' ipv4.dns 10.9.8.7
+join_and_forget stored-changed wpa2 <<<"$PASSWORD"
+
+join_and_forget mixed 'wpa wpa2' <<<"$PASSWORD"
+join_and_forget transition 'wpa2 wpa3' <<<"$PASSWORD"
+join_and_forget wpa3 wpa3 <<<"$PASSWORD"
+join_and_forget wep wep <<<'abcde'
+join_and_forget owe owe <<<''
+join_and_forget open open <<<''
+join_and_forget hidden "$HIDDEN_SSID" <<<"$PASSWORD"
+
+join enterprise eap <<<''
+join wpa3-wrong wpa3 <<<'wrong horse'
+{
+    wait_for 60 was_found leaving >&2
+    switch_off_access_point "$LEAVING_INTERFACE"
+    echo "$PASSWORD"
+} | join leaving "$LEAVING_SSID"
+
+permit yes no
+join refused open <<<''
+observe power-refused 60 power off
+permit yes
+# Last, as the switch is that of every radio in the machine: the access points' too.
+switch_power off
+join radio-off open <<<''
+switch_power on
+wait_for 60 station_state_is_at_least 30
