@@ -52,7 +52,7 @@ public:
     /// Scans and returns every access point heard during this scan, in no particular order; with an SSID (0
     /// to 32 bytes) asks for that name, also a hidden one, and returns only access points of that name. The
     /// error's description says what is missing: radio, permission, service or time. Blocks for the length of
-    /// the scan, up to half a minute.
+    /// the scan, up to half a minute; on the main thread as associateToNetwork() does.
     [[nodiscard]] virtual Result<QList<CWNetwork>>
     scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) = 0;
 
@@ -63,10 +63,10 @@ public:
     /// that the system has stored for the network, if any. A failed join leaves no profile and no password
     /// behind, and what was stored before stays as it was.
     ///
-    /// Blocks for up to a minute, after the time that the user takes where the system first wants to know who
-    /// asks. On the main thread windows repaint meanwhile, timers and posted tasks run, and the user's input
-    /// waits until the end: what the caller refers to may have changed by then. Quitting the application ends
-    /// the join, with an error.
+    /// Blocks for up to a minute, twice that where a stored password is replaced, after the time that the
+    /// user takes where the system first wants to know who asks. On the main thread windows repaint
+    /// meanwhile, timers and posted tasks run, and the user's input waits until the end: what the caller
+    /// refers to may have changed by then. Quitting the application ends the join, with an error.
     [[nodiscard]] virtual Failure associateToNetwork(const CWNetwork& network,
                                                      const std::optional<QString>& password) = 0;
 };

@@ -1,5 +1,10 @@
 #include "platform/linux/StoppableScanEvents.h"
 
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QThread>
+#include <QTimer>
+
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -9,6 +14,26 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 using nl80211::ScanEvent;
 
+namespace {
+
+constexpr auto interval = std::chrono::milliseconds(100);
+constexpr int handled = 1;
+
+/// On the main thread, handles the events that are waiting, all but the user's input; false once the
+/// application quits.
+bool keepWindowsAlive()
+{
+    const auto* application = QCoreApplication::instance();
+    if (application == nullptr || application->thread() != QThread::currentThread()) {
+        return true;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&loop] { loop.exit(handled); });
+    return loop.exec(QEventLoop::ExcludeUserInputEvents) == handled;
+}
+
+} // namespace
+
 StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> events,
                                          const std::atomic<bool>& stopped)
     : m_events(std::move(events)), m_stopped(stopped)
@@ -17,8 +42,8 @@ StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> ev
 
 Result<std::optional<ScanEvent>> StoppableScanEvents::wait(Deadline deadline)
 {
-    while (!m_stopped) {
-        const auto turn = std::min(deadline, Deadline::clock::now() + std::chrono::milliseconds(100));
+    while (!m_stopped && keepWindowsAlive()) {
+        const auto turn = std::min(deadline, Deadline::clock::now() + interval);
         const auto event = m_events->wait(turn);
         if (!event.ok() || event.value() || turn == deadline) {
             return event;

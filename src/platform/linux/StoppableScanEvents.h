@@ -7,7 +7,8 @@
 
 namespace aerolith {
 
-/// Scan events whose wait another thread can end.
+/// Scan events whose wait another thread can end, and during which the windows stay alive: a wait on the main
+/// thread handles its events, all but the user's input, and ends when the application quits.
 class StoppableScanEvents : public nl80211::ScanEvents
 {
 public:

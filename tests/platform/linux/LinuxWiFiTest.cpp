@@ -6,12 +6,14 @@
 #include "platform/linux/networkmanager/PrivateBus.h"
 #include "support/RecordingLog.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -217,14 +219,18 @@ TEST_F(LinuxWiFiTest, scansByItselfWhereNoNetworkManagerRuns)
     EXPECT_EQ(failure(), u"no events"_s);
 }
 
-TEST_F(LinuxWiFiTest, stoppingEndsAScanThatNeverAnswers)
+TEST_F(LinuxWiFiTest, stoppingOrQuittingEndsAScanThatNeverAnswers)
 {
     startNetworkManager();
-    m_fake->on(u"RequestScan"_s, [this](const QDBusMessage& call) {
-        m_client->stopScanning();
-        return call.createReply();
-    });
-    EXPECT_EQ(failure(), u"The Wi-Fi scan was stopped"_s);
+    m_fake->on(u"RequestScan"_s, [](const QDBusMessage& call) { return call.createReply(); });
+    QString outcome;
+    QTimer::singleShot(0, [&] { outcome = failure(); });
+    QTimer::singleShot(50ms, [] { QCoreApplication::quit(); });
+    QCoreApplication::exec();
+    EXPECT_EQ(outcome, u"The Wi-Fi scan was stopped"_s);
+
+    QTimer::singleShot(50ms, [this] { m_client->stopScanning(); });
+    EXPECT_EQ(failure(), u"The Wi-Fi scan was stopped"_s) << "timers run meanwhile";
 }
 
 TEST_F(LinuxWiFiTest, noticesAddressesThatNetworkManagersBackEndMakesUp)
