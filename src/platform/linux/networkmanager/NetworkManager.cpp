@@ -24,7 +24,7 @@ using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
 using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
 
-constexpr int switchTimeoutMilliseconds = 5'000;
+constexpr int switchTimeoutMilliseconds = 10'000;
 constexpr unsigned long switchPollMilliseconds = 50;
 
 } // namespace

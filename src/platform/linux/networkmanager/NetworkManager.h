@@ -64,7 +64,7 @@ public:
 
     [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
 
-    /// Switches the radio of every Wi-Fi device and waits, at most five more seconds, until it reports the
+    /// Switches the radio of every Wi-Fi device and waits, at most ten more seconds, until it reports the
     /// change.
     [[nodiscard]] std::optional<RemoteError> setWirelessEnabled(bool enabled) const;
 
