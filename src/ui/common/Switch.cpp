@@ -1,10 +1,10 @@
 #include "ui/common/Switch.h"
 
+#include "ui/common/FocusRing.h"
 #include "ui/common/Theme.h"
 
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 #include <cmath>
@@ -17,14 +17,13 @@ constexpr QSizeF trackSize{26, 15};
 constexpr double knobMargin = 1.5;
 constexpr double offOpacity = 0.45;
 constexpr int spacing = 8;
-/// For the focus ring.
-constexpr int margin = 3;
 
 } // namespace
 
 Switch::Switch(QWidget* parent) : QCheckBox(parent)
 {
     setFont(Theme::font(font(), 12));
+    setFocusPolicy(Qt::TabFocus);
 }
 
 QSize Switch::sizeHint() const
@@ -65,10 +64,7 @@ void Switch::paintEvent(QPaintEvent*)
                                bar.top() + knobMargin, diameter, diameter));
 
     if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = rect();
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+        paintFocusRing(painter, rect(), palette());
     }
 }
 

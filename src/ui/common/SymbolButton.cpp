@@ -1,6 +1,10 @@
 #include "ui/common/SymbolButton.h"
 
+#include "ui/common/FocusRing.h"
 #include "ui/common/SymbolIcon.h"
+
+#include <QPainter>
+#include <QStyleOptionToolButton>
 
 namespace aerolith {
 
@@ -25,6 +29,22 @@ void SymbolButton::setTitle(const QString& title)
 {
     setText(QString(title).replace(u'&', "&&"_L1));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+}
+
+/// The focus is marked by a ring alone.
+void SymbolButton::initStyleOption(QStyleOptionToolButton* option) const
+{
+    QToolButton::initStyleOption(option);
+    option->state.setFlag(QStyle::State_HasFocus, false);
+}
+
+void SymbolButton::paintEvent(QPaintEvent* event)
+{
+    QToolButton::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        paintFocusRing(painter, rect(), palette());
+    }
 }
 
 } // namespace aerolith

@@ -13,6 +13,10 @@ public:
 
     /// Shows this title beside the symbol. As it stands: a "&" is no mnemonic.
     void setTitle(const QString& title);
+
+protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override;
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace aerolith

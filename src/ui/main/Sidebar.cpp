@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QMargins headerPadding{12, 8, 12, 8};
+constexpr QMargins headerPadding{12, 8 - Switch::margin, 12 - Switch::margin, 8 - Switch::margin};
 
 QLabel* makeCount()
 {

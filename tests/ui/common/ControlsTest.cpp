@@ -1,6 +1,7 @@
 #include "ui/common/Spinner.h"
 #include "ui/common/Switch.h"
 #include "ui/common/SymbolButton.h"
+#include "ui/common/Theme.h"
 
 #include <QImage>
 #include <QTest>
@@ -42,6 +43,25 @@ TEST(SymbolButton, FollowsItsPaletteAndFadesWhenDisabled)
     palette.setColor(QPalette::ButtonText, Qt::red);
     button.setPalette(palette);
     EXPECT_GT(darkest(button.grab().toImage()).red(), 200);
+}
+
+TEST(Controls, ShowThatTheKeyboardIsAtThem)
+{
+    QWidget window;
+    SymbolButton button(u"trash"_s, u"Clear"_s, &window);
+    Switch control(&window);
+    control.move(60, 0);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (QWidget* focused : {static_cast<QWidget*>(&button), static_cast<QWidget*>(&control)}) {
+        const auto edge = [focused] {
+            return focused->grab().toImage().pixelColor(focused->width() / 2, focused->height() - 1);
+        };
+        window.setFocus();
+        EXPECT_NE(edge(), Theme::accent(focused->palette()));
+        focused->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(edge(), Theme::accent(focused->palette()));
+    }
 }
 
 TEST(Spinner, TurnsOnlyWhileItIsShown)
