@@ -17,7 +17,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const auto joined = u"joined"_s;
 const auto stored = u"/org/freedesktop/NetworkManager/Settings/3"_s;

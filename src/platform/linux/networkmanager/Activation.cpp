@@ -8,6 +8,7 @@
 
 #include <org.freedesktop.NetworkManager.Device.h>
 #include <org.freedesktop.NetworkManager.h>
+#include <utility>
 
 namespace aerolith {
 
@@ -28,10 +29,9 @@ constexpr uint activeDeactivated = 4;
 
 } // namespace
 
-Activation::Activation(const NetworkManager& manager, const QString& devicePath,
-                       std::chrono::milliseconds timeLimit)
+Activation::Activation(const NetworkManager& manager, QString devicePath, std::chrono::milliseconds timeLimit)
     : m_manager(manager)
-    , m_devicePath(devicePath)
+    , m_devicePath(std::move(devicePath))
     , m_timeLimit(timeLimit)
     , m_agent(manager.bus())
     , m_serviceWatcher(NetworkManager::serviceName, manager.bus().connection(),

@@ -58,7 +58,7 @@ public:
     static constexpr std::chrono::milliseconds usualTimeLimit = std::chrono::seconds(60);
 
     /// Watches the device from here on. `manager` outlives this object.
-    Activation(const NetworkManager& manager, const QString& devicePath,
+    Activation(const NetworkManager& manager, QString devicePath,
                std::chrono::milliseconds timeLimit = usualTimeLimit);
 
     /// Activates a stored profile, or a new one that vanishes unless the activation succeeds and the profile
