@@ -54,7 +54,12 @@ Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExp
     column->addWidget(m_list);
     column->addWidget(new SidebarStatusBar(m_scanner, exporter));
 
-    connect(m_filter, &Switch::clicked, &m_scanner, &WiFiScanner::setShowHiddenNetworks);
+    // Assistive technology flips a switch without a click.
+    connect(m_filter, &Switch::toggled, this, [this](bool show) {
+        if (show != m_scanner.showHiddenNetworks()) {
+            m_scanner.setShowHiddenNetworks(show);
+        }
+    });
     connect(m_list, &NetworkListView::chosen, this,
             [this](const WiFiNetwork& network) { m_scanner.selectionStore().select(network); });
     connect(m_list, &NetworkListView::menuRequested, this, &Sidebar::openMenu);

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -104,7 +105,7 @@ SettingsView::SettingsView(WiFiScanner& scanner, UserDefaults& userDefaults, Log
 void SettingsView::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous()) {
-        m_startAtLogin->setChecked(m_loginItem.isEnabled());
+        showLoginItem(m_loginItem.isEnabled());
     }
     Sheet::showEvent(event);
 }
@@ -112,8 +113,7 @@ void SettingsView::showEvent(QShowEvent* event)
 QWidget* SettingsView::makeScanSettings()
 {
     m_startAtLogin->setObjectName(u"startAtLogin"_s);
-    // The user's own changes alone; the program's do not click.
-    connect(m_startAtLogin, &QCheckBox::clicked, this, &SettingsView::setLoginItem);
+    connect(m_startAtLogin, &QCheckBox::toggled, this, &SettingsView::setLoginItem);
 
     auto* box = new TitledBox(u"Scan Settings"_s, settingSpacing);
     box->setSymbol(u"wifi"_s);
@@ -187,8 +187,15 @@ void SettingsView::setLoginItem(bool enabled)
 {
     if (const Failure failure = m_loginItem.setEnabled(enabled)) {
         m_log.line(u"Error toggling login item: %1"_s.arg(failure->description));
-        m_startAtLogin->setChecked(!enabled);
+        showLoginItem(!enabled);
     }
+}
+
+/// Registers nothing: only the user's own changes do.
+void SettingsView::showLoginItem(bool enabled)
+{
+    const QSignalBlocker blocker(m_startAtLogin);
+    m_startAtLogin->setChecked(enabled);
 }
 
 } // namespace aerolith

@@ -33,6 +33,7 @@ private:
     [[nodiscard]] QLayout* makeButtons();
     void save();
     void setLoginItem(bool enabled);
+    void showLoginItem(bool enabled);
 
     WiFiScanner& m_scanner;
     UserDefaults& m_userDefaults;
