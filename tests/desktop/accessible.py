@@ -1,0 +1,211 @@
+"""A program as assistive technology meets it: found, read and driven through its accessibility tree alone."""
+
+import contextlib
+import os
+import signal
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE = float(os.environ.get("DESKTOP_PATIENCE", "60"))  # seconds; only a failure waits for all of it
+
+
+class Failure(Exception):
+    """What was looked for and not met, with what was there instead."""
+
+
+def wait_for(what, condition, seconds=PATIENCE):
+    """The first true value of condition(); its own failures count as false, for the tree changes while it is read."""
+    deadline = time.monotonic() + seconds
+    last = None
+    while time.monotonic() < deadline:
+        try:
+            value = condition()
+            if value:
+                return value
+            last = value
+        except (GLib.Error, Failure) as error:
+            last = error
+        time.sleep(0.05)
+    raise Failure(f"waited in vain for {what}; last: {last!r}")
+
+
+class Element:
+    """One object of the tree. Reads are live: nothing is remembered between them."""
+
+    def __init__(self, accessible):
+        self.accessible = accessible
+
+    def __repr__(self):
+        with contextlib.suppress(GLib.Error):
+            return f"<{self.role} {self.name!r}>"
+        return "<gone>"
+
+    @property
+    def name(self):
+        return self.accessible.get_name()
+
+    @property
+    def description(self):
+        return self.accessible.get_description()
+
+    @property
+    def role(self):
+        return self.accessible.get_role_name()
+
+    @property
+    def identifier(self):
+        """The object's name in the program, after the last dot of its path."""
+        return (self.accessible.get_accessible_id() or "").rpartition(".")[2]
+
+    def has(self, state):
+        return self.accessible.get_state_set().contains(state)
+
+    @property
+    def showing(self):
+        return self.has(Atspi.StateType.SHOWING)
+
+    @property
+    def children(self):
+        count = self.accessible.get_child_count()
+        found = (self.accessible.get_child_at_index(i) for i in range(count))
+        return [Element(child) for child in found if child is not None]
+
+    def walk(self):
+        """This element and all below it, in tree order. Objects that vanish meanwhile are left out."""
+        yield self
+        with contextlib.suppress(GLib.Error):
+            for child in self.children:
+                yield from child.walk()
+
+    def all(self, role=None, name=None, showing=True):
+        def fits(element):
+            with contextlib.suppress(GLib.Error):
+                return (
+                    (role is None or element.role == role)
+                    and (name is None or element.name == name)
+                    and (not showing or element.showing)
+                )
+            return False
+
+        return [element for element in self.walk() if fits(element)]
+
+    def find(self, role=None, name=None):
+        """The one such element that shows, as soon as there is one."""
+        found = wait_for(f"a {role or 'thing'} {name!r} in {self!r}", lambda: self.all(role, name))
+        if len(found) > 1:
+            raise Failure(f"{len(found)} of {role} {name!r}: {found}")
+        return found[0]
+
+    def gone(self, role=None, name=None):
+        wait_for(f"no {role or 'thing'} {name!r} in {self!r}", lambda: not self.all(role, name))
+
+    def act(self, *actions):
+        """Does the first of these actions that the element offers."""
+        offered = [self.accessible.get_action_name(i) for i in range(self.accessible.get_n_actions())]
+        for action in actions:
+            if action in offered:
+                if not self.accessible.do_action(offered.index(action)):
+                    raise Failure(f"{self!r} refused {action}")
+                return
+        raise Failure(f"{self!r} offers {offered}, none of {actions}")
+
+    def press(self):
+        self.act("Press", "Toggle", "press", "click")
+
+    def focus(self):
+        self.accessible.grab_focus()
+        wait_for(f"focus on {self!r}", lambda: self.has(Atspi.StateType.FOCUSED))
+
+    @property
+    def value(self):
+        return self.accessible.get_current_value()
+
+    @value.setter
+    def value(self, number):
+        self.accessible.set_current_value(number)
+
+    @property
+    def text(self):
+        return Atspi.Text.get_text(self.accessible, 0, Atspi.Text.get_character_count(self.accessible))
+
+    @text.setter
+    def text(self, content):
+        Atspi.EditableText.set_text_contents(self.accessible, content)
+
+    def centre(self):
+        box = self.accessible.get_extents(Atspi.CoordType.SCREEN)
+        return box.x + box.width // 2, box.y + box.height // 2
+
+
+def key(*names):
+    """Presses keys one after the other, by their X names, with whatever has the keyboard focus."""
+    subprocess.run(["xdotool", "key", "--delay", "200", *names], check=True)
+
+
+class Focus:
+    """What has been told of the keyboard focus. An open menu can be met in this way alone: Qt keeps it out of the
+    tree, as what assistive technology reads out of it are the entries that the focus comes to."""
+
+    def __init__(self):
+        self.told = []
+        self.listener = Atspi.EventListener.new(lambda event: self.told.append(Element(event.source)))
+        self.listener.register("object:state-changed:focused")
+
+    def on(self, role, name):
+        def told():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return any(e.role == role and e.name == name for e in self.told)
+
+        wait_for(f"the focus on {role} {name!r}, not only {self.told}", told)
+
+
+def click(element):
+    """The pointer's first button in the middle of an element."""
+    x, y = element.centre()
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+
+
+class Program:
+    """The built program, running on the display of this session until the end of the with block."""
+
+    def __init__(self, path, *arguments, log):
+        self.command = [path, *arguments]
+        self.log_path = log
+
+    def __enter__(self):
+        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        with open(self.log_path, "wb") as log:
+            self.process = subprocess.Popen(self.command, env=environment, stdout=log, stderr=subprocess.STDOUT)
+        return self
+
+    def __exit__(self, *_):
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGTERM)
+            with contextlib.suppress(subprocess.TimeoutExpired):
+                self.process.wait(PATIENCE)
+        if self.process.poll() is None:
+            self.process.kill()
+            raise Failure("the program did not end when asked to")
+
+    def application(self):
+        """The program's own root in the tree."""
+
+        def found():
+            if self.process.poll() is not None:
+                raise SystemExit(f"the program ended with {self.process.returncode}: {self.log()}")
+            desktop = Element(Atspi.get_desktop(0))
+            return next((a for a in desktop.children if a.accessible.get_process_id() == self.process.pid), None)
+
+        application = wait_for("the program in the accessibility tree", found)
+        application.accessible.set_cache_mask(Atspi.Cache.NONE)
+        return application
+
+    def log(self):
+        with open(self.log_path, encoding="utf-8") as log:
+            return log.read()

@@ -1,0 +1,214 @@
+#!/usr/bin/python3
+"""main_window.py PROGRAM SSID RESULTS [ARGUMENT...]
+
+Drives PROGRAM's main window through its accessibility tree, in the desktop session that this runs in: selects the
+access point SSID, reads its details, hides and shows it, filters, sorts, exports both files to the folder RESULTS, reads
+the interface's properties and changes the settings. It knows nothing of the air around: what the window says in one
+place is compared with what it says in another and with the files. RESULTS/details.json keeps what the pane said."""
+
+import csv
+import json
+import os
+import re
+import sys
+
+from accessible import Failure, Focus, Program, click, key, wait_for
+
+PANE_ROWS = {
+    "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
+    "Current RSSI": "RSSI (dBm)", "Country": "Country",
+}
+
+
+def check(what, actual, expected):
+    if actual != expected:
+        raise Failure(f"{what}: {actual!r} instead of {expected!r}")
+    print(f"ok: {what}: {actual!r}")
+
+
+class MainWindow:
+    def __init__(self, program):
+        self.application = program.application()
+        self.frame = self.application.find("frame")
+
+    @property
+    def list(self):
+        return self.frame.find("list", "Networks")
+
+    def rows(self):
+        """The SSIDs as the rows name them; isolates keep a name's direction to itself."""
+        return [row.name.split("\u2069")[0].strip("\u2068") for row in self.list.children]
+
+    def count(self):
+        header = next(e for e in self.frame.all("label") if re.fullmatch(r"\d+ Networks", e.name))
+        return int(header.name.split()[0])
+
+    def row(self, ssid):
+        return self.list.children[self.rows().index(ssid)]
+
+    def select(self, ssid):
+        self.row(ssid).act("Toggle")
+        self.value("SSID", expected=ssid)
+
+    def value(self, label, expected=None):
+        """The pane's value with this label; waits for the expected one."""
+        if expected is not None:
+            wait_for(f"{label} {expected!r}", lambda: self.frame.find("text", label).text == expected)
+        return self.frame.find("text", label).text
+
+    def details(self):
+        pane = self.frame.find(name="Network details")
+        return {row.name: row.text for row in pane.all("text", showing=False) if row.name}
+
+    def menu_on(self, ssid, entry):
+        """The row's context menu, by the keyboard."""
+        click(self.row(ssid))
+        self.value("SSID", expected=ssid)
+        focus = Focus()
+        key("Menu", "Down")
+        focus.on("menu item", entry)
+        key("Return")
+
+    def save(self, button, path):
+        self.frame.find("push button", button).press()
+        dialog = self.application.find("dialog")
+        dialog.find("text", "File name:").text = path
+        dialog.find("push button", "Save").press()
+        self.application.gone("dialog")
+        wait_for(path, lambda: os.path.exists(path))
+        with open(path, encoding="utf-8", newline="") as file:
+            return list(csv.reader(file))
+
+
+def first_scan(window):
+    wait_for("a first scan", lambda: window.count() > 0)
+    check("rows beside the count", len(window.list.children), window.count())
+    check("the pane without a selection", len(window.frame.all("label", "Select a network to view details")), 1)
+
+
+def read_details(window, ssid):
+    window.select(ssid)
+    details = window.details()
+    check("the title", window.frame.name, ssid)
+    rssi = int(details["Current RSSI"].removesuffix(" dBm"))
+    noise = int(details["Noise Level"].removesuffix(" dBm"))
+    check("SNR", details["SNR"], f"{rssi - noise} dB")
+    if f"channel {details['Channel']}" not in window.row(ssid).name:
+        raise Failure(f"the row says {window.row(ssid).name!r}, the pane channel {details['Channel']}")
+    chart = next(e for e in window.frame.walk() if e.name.startswith("Signal History") and e.description)
+    for part in (ssid, details["Current RSSI"], " sample"):
+        if part not in chart.description:
+            raise Failure(f"the chart's description lacks {part!r}: {chart.description!r}")
+    print(f"ok: the chart: {chart.description!r}")
+    return details
+
+
+def hide_and_show(window, ssid):
+    listed = window.count()
+    window.menu_on(ssid, "Hide Network")
+    check("a hidden row stays while hidden ones are listed", ssid in window.rows(), True)
+    window.frame.find("check box", "All Networks").press()
+    window.frame.find("check box", "Hiding Hidden")
+    wait_for("one row fewer", lambda: window.count() == listed - 1 and ssid not in window.rows())
+    window.frame.find("label", "Select a network to view details")
+    window.frame.find("check box", "Hiding Hidden").press()
+    wait_for("the row again", lambda: ssid in window.rows())
+    window.value("SSID", expected=ssid)
+    window.menu_on(ssid, "Show Network")
+
+
+def sort(window):
+    by_signal = window.rows()
+    menu = window.frame.find("combo box")
+    click(menu)
+    key("Down", "Return")
+    wait_for("the list by name", lambda: menu.name == "Network Name" and window.rows() != by_signal)
+    rest = window.rows()[1:]
+    check("the rows by name, the joined one first", [window.rows()[0], *sorted(rest, key=str.casefold)], window.rows())
+    click(menu)
+    key("Up", "Return")
+    wait_for("the list by signal", lambda: window.rows() == by_signal)
+
+
+def export(window, ssid, results):
+    rows = window.save("Export network list", f"{results}/list.csv")
+    check("the exported rows", [row[0] for row in rows[1:]], window.rows())
+    details = window.details()
+    record = dict(zip(rows[0], next(row for row in rows[1:] if row[1] == details["BSSID"])))
+    for label, column in PANE_ROWS.items():
+        if label in details:
+            check(f"{label} in the file", record[column], details[label].removesuffix(" dBm"))
+    rows = window.save("Export network data", f"{results}/details.csv")
+    check("the exported access point", ssid in [cell for row in rows for cell in row], True)
+
+
+def compare_with_scenario(details, path):
+    """What the radio was told to report, where it is a simulated one."""
+    with open(path, encoding="utf-8") as file:
+        cycles = json.load(file)["cycles"]
+    heard = next(n for n in cycles[0]["networks"] if n["bssid"] == details["BSSID"])
+    check("the SSID on the air", details["SSID"], heard["ssid"])
+    check("the channel on the air", details["Channel"], str(heard["channel"]["number"]))
+    check("the beacon interval on the air", details["Beacon Interval"], str(heard.get("beaconInterval", 100)))
+    levels = [f"{n['rssi']} dBm" for cycle in cycles for n in cycle["networks"] if n["bssid"] == heard["bssid"]]
+    check("the signal on the air", details["Current RSSI"] in levels, True)
+
+
+def interface(window):
+    window.frame.find("push button", "Wi-Fi interface information").press()
+    dialog = window.application.find("dialog")
+    texts = [e.name for e in dialog.all("label")] + [e.text for e in dialog.all("text")]
+    for label in ("Interface", "Hardware Address", "Transmit Power", "Supported Channels"):
+        if label not in texts:
+            raise Failure(f"the interface dialog lacks {label}: {texts}")
+    print(f"ok: the interface: {texts}")
+    key("Return")
+    window.application.gone("dialog")
+
+
+def settings(window):
+    window.frame.find("push button", "Settings").press()
+    dialog = window.application.find("dialog")
+    dialog.find("slider", "Scan Interval").value = 15
+    dialog.find("slider", "History Points").value = 35
+    dialog.find("label", "15s")
+    dialog.find("label", "35")
+    dialog.find("push button", "Save").press()
+    window.application.gone("dialog")
+    with open(os.environ["XDG_CONFIG_HOME"] + "/aerolith/aerolith.conf", encoding="utf-8") as stored:
+        lines = stored.read().splitlines()
+    for line in ("scanInterval=15", "historyLimit=35"):
+        check(f"{line} is stored", line in lines, True)
+
+
+def clear_and_refresh(window):
+    window.frame.find("push button", "Clear network list").press()
+    wait_for("an empty list", lambda: window.count() == 0)
+    window.frame.find("label", "Scanning for networks.\nPlease wait...")
+    wait_for("the list again", lambda: window.count() > 0)
+
+
+def main(path, ssid, results, *arguments):
+    os.makedirs(results, exist_ok=True)
+    with Program(path, *arguments, log=f"{results}/log") as program:
+        window = MainWindow(program)
+        first_scan(window)
+        details = read_details(window, ssid)
+        with open(f"{results}/details.json", "w", encoding="utf-8") as file:
+            json.dump(details, file)
+        if "--simulate" in arguments:
+            compare_with_scenario(details, arguments[arguments.index("--simulate") + 1])
+        hide_and_show(window, ssid)
+        sort(window)
+        export(window, ssid, results)
+        interface(window)
+        settings(window)
+        clear_and_refresh(window)
+    print("ok: ended")
+
+
+if __name__ == "__main__":
+    try:
+        main(*sys.argv[1:])
+    except Failure as failure:
+        sys.exit(f"failed: {failure}")
