@@ -1,8 +1,8 @@
 #include "platform/linux/LinuxLocationManager.h"
 
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/MainLoop.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/MainLoop.h"
 #include "support/ManualMainQueue.h"
 
 #include <gmock/gmock.h>

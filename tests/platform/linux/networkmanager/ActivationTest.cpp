@@ -1,8 +1,8 @@
 #include "platform/linux/networkmanager/Activation.h"
 
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/MainLoop.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/MainLoop.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

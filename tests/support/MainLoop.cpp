@@ -1,4 +1,4 @@
-#include "platform/linux/networkmanager/MainLoop.h"
+#include "support/MainLoop.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
