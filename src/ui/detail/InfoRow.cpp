@@ -1,7 +1,7 @@
 #include "ui/detail/InfoRow.h"
 
 #include "ui/common/SecondaryLabel.h"
-#include "ui/detail/SelectableText.h"
+#include "ui/common/SelectableText.h"
 
 #include <QHBoxLayout>
 

@@ -1,4 +1,4 @@
-#include "ui/detail/SelectableText.h"
+#include "ui/common/SelectableText.h"
 
 #include "ui/common/Theme.h"
 
