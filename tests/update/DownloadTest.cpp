@@ -1,0 +1,199 @@
+#include "support/Printing.h"
+#include "update/UpdateWorld.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+using Behind = HttpsServer::Behind;
+
+namespace {
+
+/// Larger than what one read of a connection gives.
+const QByteArray program = QByteArray("new program").repeated(100'000);
+
+class DownloadTest : public testing::Test, public UpdateWorld
+{
+protected:
+    static void SetUpTestSuite() { startMainLoop(); }
+
+    DownloadTest() { announce("1.1", program); }
+
+    /// Checks and downloads what is found.
+    void download()
+    {
+        check();
+        updater->download();
+        settle();
+    }
+
+    /// Why the download fails when the server gives this answer.
+    QString refusal(const QByteArray& answer, Behind behind = Behind::close)
+    {
+        server.answer(filePath, answer, behind);
+        download();
+        const auto* failed = std::get_if<UpdateFailed>(&updater->state());
+        EXPECT_EQ(files(), QStringList()) << "nothing is left behind";
+        if (failed == nullptr || failed->step != UpdateFailed::Step::download) {
+            return u"none"_s;
+        }
+        return failed->error.description;
+    }
+
+    static QByteArray answerWith(const QByteArray& body, qsizetype length)
+    {
+        return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(length) + "\r\n\r\n" + body;
+    }
+
+    QStringList files() const
+    {
+        return QDir(downloads).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    QByteArray contents(const QString& name) const
+    {
+        QFile file(QDir(downloads).filePath(name));
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    const QString filePath = u"/1.1.bin"_s;
+    const QString downloads = folder.filePath(u"Downloads"_s);
+};
+
+} // namespace
+
+TEST_F(DownloadTest, KeepsWhatIsWholeAndSigned)
+{
+    server.serve(filePath, program);
+    check();
+    QList<qint64> received;
+    QObject::connect(&*updater, &AppcastUpdater::stateChanged, &*updater, [&] {
+        if (const auto* state = std::get_if<UpdateDownloading>(&updater->state())) {
+            received.append(state->received);
+        }
+    });
+    updater->download();
+    settle();
+    EXPECT_EQ(received.first(), 0);
+    EXPECT_GT(received.size(), 3);
+    EXPECT_TRUE(std::is_sorted(received.begin(), received.end()));
+    EXPECT_EQ(received.last(), program.size());
+
+    ASSERT_TRUE(isIn<UpdateDownloaded>());
+    EXPECT_EQ(std::get<UpdateDownloaded>(updater->state()).path, QDir(downloads).filePath(u"1.1.bin"_s));
+    EXPECT_EQ(files(), QStringList{u"1.1.bin"_s});
+    EXPECT_EQ(contents(u"1.1.bin"_s), program);
+    EXPECT_TRUE(QFile::permissions(QDir(downloads).filePath(u"1.1.bin"_s)).testFlag(QFile::ReadOther));
+    EXPECT_EQ(workspace.folders, QStringList{downloads});
+
+    workspace.refusal = Error{u"no file manager"_s};
+    download();
+    EXPECT_TRUE(isIn<UpdateDownloaded>());
+    EXPECT_EQ(files(), QStringList({u"1.1 (1).bin"_s, u"1.1.bin"_s})) << "no file is ever replaced";
+    EXPECT_EQ(log.take(), QStringList{u"no file manager"_s});
+}
+
+TEST_F(DownloadTest, KeepsNothingElse)
+{
+    const qsizetype size = program.size();
+    QByteArray forged = program;
+    forged[size / 2] = '?';
+    const auto wrongSignature =
+        u"The file's signature is wrong: it does not come from the makers of Aerolith"_s;
+    EXPECT_EQ(refusal(answerWith(forged, size)), wrongSignature);
+    EXPECT_EQ(refusal(answerWith(program + "!", size + 1)),
+              u"The file is longer than the %1 bytes that it should have"_s.arg(size));
+    EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\n\r\n" + program + "!", Behind::trickle),
+              u"The file is longer than the %1 bytes that it should have"_s.arg(size));
+    EXPECT_EQ(refusal(answerWith(program.chopped(1), size - 1)),
+              u"The file has %1 bytes in place of the %2 that it should have"_s.arg(size - 1).arg(size));
+    const QString cut = refusal(answerWith(program.first(500'000), size));
+    EXPECT_TRUE(cut.startsWith(u"The connection to localhost ended after 500000 bytes: "_s))
+        << cut.toStdString();
+    EXPECT_EQ(refusal("HTTP/1.1 301 Moved\r\nLocation: http://localhost/1.1.bin\r\n\r\n"),
+              u"localhost redirects to an address that is not https: http://localhost/1.1.bin"_s);
+    EXPECT_EQ(refusal("HTTP/1.1 403 No\r\n\r\n"), u"localhost answered with the HTTP status 403"_s);
+
+    const QByteArray good = answerWith(program, size);
+    announce("1.1", program);
+    keys = Keys();
+    makeUpdater();
+    EXPECT_EQ(refusal(good), wrongSignature) << "somebody else's";
+    https.longestSilence = std::chrono::milliseconds(300);
+    makeUpdater();
+    EXPECT_EQ(refusal(good.chopped(1), Behind::silence), u"localhost has been silent for 0.3 seconds"_s);
+    EXPECT_TRUE(workspace.folders.isEmpty());
+}
+
+TEST_F(DownloadTest, LeavesNothingBehindWhenItIsCancelled)
+{
+    server.answer(filePath, answerWith(program.first(500'000), program.size()), Behind::silence);
+    check();
+    updater->download();
+    EXPECT_TRUE(handleEventsUntil([this] {
+        const auto* state = std::get_if<UpdateDownloading>(&updater->state());
+        return state != nullptr && state->received == 500'000;
+    }));
+    updater->dismiss();
+    EXPECT_TRUE(isIn<UpdateIdle>());
+    EXPECT_EQ(files(), QStringList());
+    updater->download();
+    EXPECT_TRUE(isIn<UpdateIdle>()) << "nothing is available now";
+    server.serve(filePath, program);
+    download();
+    EXPECT_TRUE(isIn<UpdateDownloaded>());
+}
+
+TEST_F(DownloadTest, SaysWhereNothingCanBeSaved)
+{
+    server.serve(filePath, program);
+    QFile file(downloads);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    download();
+    ASSERT_TRUE(isIn<UpdateFailed>());
+    EXPECT_EQ(std::get<UpdateFailed>(updater->state()).error.description,
+              u"The folder %1 cannot be made"_s.arg(downloads));
+}
+
+TEST(DownloadName, IsAPlainName)
+{
+    const QList<std::pair<QString, QString>> cases{
+        {u"https://example.org/a/aerolith_1.2-1_amd64.deb?x=/y#z"_s, u"aerolith_1.2-1_amd64.deb"_s},
+        {u"https://example.org/My%20File%20(2).tar.gz"_s, u"My File (2).tar.gz"_s},
+        {u"https://example.org/..%2F..%2F.bashrc"_s, u"bashrc"_s},
+        {u"https://example.org/.."_s, u"download"_s},
+        {u"https://example.org/"_s, u"download"_s},
+        {u"https://example.org"_s, u"download"_s},
+        {u"https://example.org/--rf%0A%00%1B[2J$(x)%E2%80%AEgpj.deb"_s, u"rf2J(x)gpj.deb"_s},
+        {u"https://example.org/%E6%BC%A2%E5%AD%97.deb"_s, u"漢字.deb"_s},
+        {u"https://example.org/"_s + u"long"_s.repeated(100) + u".deb"_s, u"long"_s.repeated(19) + u".deb"_s},
+    };
+    for (const auto& [url, name] : cases) {
+        EXPECT_EQ(downloadName(QUrl(url)), name) << url.toStdString();
+    }
+}
+
+TEST(DownloadFile, FindsAFreeName)
+{
+    const QTemporaryDir folder;
+    for (const auto& [name, second, third] :
+         {std::tuple(u"a-1.2.deb"_s, u"a-1.2 (1).deb"_s, u"a-1.2 (2).deb"_s),
+          std::tuple(u"a-1.2.tar.gz"_s, u"a-1.2 (1).tar.gz"_s, u"a-1.2 (2).tar.gz"_s),
+          std::tuple(u"download"_s, u"download (1)"_s, u"download (2)"_s)}) {
+        for (const QString& expected : {name, second, third}) {
+            DownloadFile file(folder.path());
+            EXPECT_FALSE(file.open());
+            EXPECT_FALSE(file.write("bytes"));
+            EXPECT_EQ(file.keep(name).value(), folder.filePath(expected));
+        }
+    }
+}
+
+} // namespace aerolith
