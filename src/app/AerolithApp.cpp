@@ -7,6 +7,12 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
     , m_scanner(m_selectionStore, surroundings)
     , m_dateTexts(surroundings.locale)
     , m_exporter(surroundings.log)
+    , m_updaterController(UpdateOptions::standard(surroundings.log),
+                          {.userDefaults = surroundings.userDefaults,
+                           .mainQueue = surroundings.mainQueue,
+                           .clock = surroundings.clock,
+                           .log = surroundings.log,
+                           .workspace = desktop.workspace})
     , m_mainWindow(m_scanner,
                    {.userDefaults = surroundings.userDefaults,
                     .wifiClient = surroundings.wifiClient,

@@ -4,6 +4,7 @@
 #include "model/SelectionStore.h"
 #include "model/WiFiScanner.h"
 #include "ui/main/MainWindow.h"
+#include "ui/update/UpdaterController.h"
 
 namespace aerolith {
 
@@ -21,6 +22,7 @@ private:
     WiFiScanner m_scanner;
     DateTexts m_dateTexts;
     FileExporter m_exporter;
+    UpdaterController m_updaterController;
     MainWindow m_mainWindow;
 };
 
