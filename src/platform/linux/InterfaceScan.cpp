@@ -52,8 +52,9 @@ Result<ChosenService> chooseService(LinuxWireless& wireless, const InterfaceInfo
         return kernelService(wireless, info,
                              u"NetworkManager does not manage the Wi-Fi interface %1"_s.arg(info.name));
     }
-    return ChosenService{std::make_shared<NetworkManagerScan>(manager, info.name, device.value()->path),
-                         true};
+    return ChosenService{
+        std::make_shared<NetworkManagerScan>(manager, wireless.askedNames, info.name, device.value()->path),
+        true};
 }
 
 Result<std::shared_ptr<nl80211::ScanEvents>> eventsFor(const ChosenService& chosen, LinuxWireless& wireless,

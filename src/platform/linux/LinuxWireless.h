@@ -2,6 +2,7 @@
 
 #include "platform/Log.h"
 #include "platform/Result.h"
+#include "platform/linux/AskedNames.h"
 #include "platform/linux/networkmanager/BusConnection.h"
 #include "platform/linux/nl80211/BootTime.h"
 #include "platform/linux/nl80211/Nl80211.h"
@@ -25,6 +26,7 @@ struct LinuxWireless
     /// Where sysfs is mounted.
     QString systemFiles;
     Log& log;
+    AskedNames askedNames;
     /// Whether it has been logged that NetworkManager's addresses are made up.
     std::atomic<bool> madeUpAddressLogged = false;
     /// Whether every scan and join is to end at once.

@@ -8,9 +8,12 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-NetworkManagerScan::NetworkManagerScan(const NetworkManager& manager, QString interfaceName,
-                                       QString devicePath)
-    : m_manager(manager), m_interfaceName(std::move(interfaceName)), m_devicePath(std::move(devicePath))
+NetworkManagerScan::NetworkManagerScan(const NetworkManager& manager, AskedNames& askedNames,
+                                       QString interfaceName, QString devicePath)
+    : m_manager(manager)
+    , m_askedNames(askedNames)
+    , m_interfaceName(std::move(interfaceName))
+    , m_devicePath(std::move(devicePath))
 {
 }
 
@@ -21,7 +24,8 @@ Failure NetworkManagerScan::obstacle()
 
 Failure NetworkManagerScan::request(const std::optional<QByteArray>& ssid)
 {
-    const auto error = m_manager.requestScan(m_devicePath, ssid);
+    const auto name = ssid && m_askedNames.take(*ssid) ? ssid : std::nullopt;
+    const auto error = m_manager.requestScan(m_devicePath, name);
     if (!error) {
         return {};
     }
