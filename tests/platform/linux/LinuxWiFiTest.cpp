@@ -228,7 +228,7 @@ TEST_F(LinuxWiFiTest, stoppingOrQuittingEndsAScanThatNeverAnswers)
     startNetworkManager();
     m_fake->on(u"RequestScan"_s, [](const QDBusMessage& call) { return call.createReply(); });
     QString outcome;
-    QTimer::singleShot(0, [&] { outcome = failure(); });
+    QTimer::singleShot(0ms, [&] { outcome = failure(); });
     QTimer::singleShot(50ms, [] { QCoreApplication::quit(); });
     QCoreApplication::exec();
     EXPECT_EQ(outcome, u"The Wi-Fi scan was stopped"_s);

@@ -9,7 +9,7 @@
 
 namespace aerolith {
 
-/// One call to an object of NetworkManager, through the proxy of one of its interfaces; ends within ten
+/// One call to an object of NetworkManager, through the proxy of one of its interfaces; ends within 25
 /// seconds. One per call: a proxy keeps the error of an earlier call after a later one that succeeded.
 template <typename Proxy>
 class Call
@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    static constexpr int timeoutMilliseconds = 10'000;
+    static constexpr int timeoutMilliseconds = 25'000;
 
     Proxy m_proxy;
 };

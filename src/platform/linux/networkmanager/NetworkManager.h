@@ -48,7 +48,7 @@ struct ManagedDevice
     quint32 reason = 0;
 };
 
-/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most ten
+/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most 25
 /// seconds. To be made and used on the same thread; needs no event loop.
 class NetworkManager
 {
