@@ -19,14 +19,18 @@ class Collation
 {
 public:
     /// `locale` is an ICU locale identifier; one that ICU does not know falls back to its root order.
-    explicit Collation(const QByteArray& locale);
+    explicit Collation(QByteArray locale);
     ~Collation();
 
     /// Bytes whose plain order is the order of the texts; texts that differ in case only have the same.
     [[nodiscard]] QByteArray sortKey(const QString& text) const;
 
 private:
-    std::unique_ptr<icu::Collator> m_collator;
+    [[nodiscard]] const icu::Collator* collator() const;
+
+    QByteArray m_locale;
+    /// Loaded when the first text is ordered. Null also where ICU has no data.
+    mutable std::unique_ptr<icu::Collator> m_collator;
 };
 
 } // namespace aerolith

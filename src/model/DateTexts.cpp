@@ -9,6 +9,7 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <utility>
 
 namespace aerolith {
 
@@ -91,38 +92,55 @@ constexpr std::array<Unit, 7> units{{
 
 } // namespace
 
-DateTexts::DateTexts(const UserLocale& userLocale)
+struct DateTexts::Formats
 {
-    const icu::Locale locale(userLocale.time.constData());
-    m_time.reset(icu::DateFormat::createTimeInstance(icu::DateFormat::kMedium, locale));
-    const std::unique_ptr<icu::DateFormat> date(
-        icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, locale));
+    explicit Formats(const UserLocale& userLocale)
+    {
+        const icu::Locale locale(userLocale.time.constData());
+        time.reset(icu::DateFormat::createTimeInstance(icu::DateFormat::kMedium, locale));
+        const std::unique_ptr<icu::DateFormat> date(
+            icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, locale));
 
-    icu::UnicodeString pattern = longJoiner(locale);
-    pattern.findAndReplace(u"{1}", patternOf(date.get())).findAndReplace(u"{0}", patternOf(m_time.get()));
-    UErrorCode status = U_ZERO_ERROR;
-    m_dateTime = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
+        icu::UnicodeString pattern = longJoiner(locale);
+        pattern.findAndReplace(u"{1}", patternOf(date.get())).findAndReplace(u"{0}", patternOf(time.get()));
+        UErrorCode status = U_ZERO_ERROR;
+        dateTime = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
 
-    const std::unique_ptr<icu::TimeZone> zone = zoneOf(userLocale);
-    for (icu::DateFormat* format : {m_dateTime.get(), m_time.get()}) {
-        if (format != nullptr) {
-            format->setTimeZone(*zone);
+        const std::unique_ptr<icu::TimeZone> zone = zoneOf(userLocale);
+        for (icu::DateFormat* format : {dateTime.get(), time.get()}) {
+            if (format != nullptr) {
+                format->setTimeZone(*zone);
+            }
         }
+        relative = std::make_unique<icu::RelativeDateTimeFormatter>(locale, nullptr, UDAT_STYLE_SHORT,
+                                                                    UDISPCTX_CAPITALIZATION_NONE, status);
     }
-    m_relative = std::make_unique<icu::RelativeDateTimeFormatter>(locale, nullptr, UDAT_STYLE_SHORT,
-                                                                  UDISPCTX_CAPITALIZATION_NONE, status);
-}
+
+    std::unique_ptr<icu::DateFormat> dateTime;
+    std::unique_ptr<icu::DateFormat> time;
+    std::unique_ptr<icu::RelativeDateTimeFormatter> relative;
+};
+
+DateTexts::DateTexts(UserLocale locale) : m_locale(std::move(locale)) {}
 
 DateTexts::~DateTexts() = default;
 
+const DateTexts::Formats& DateTexts::formats() const
+{
+    if (!m_formats) {
+        m_formats = std::make_unique<Formats>(m_locale);
+    }
+    return *m_formats;
+}
+
 QString DateTexts::mediumDateTime(TimePoint time) const
 {
-    return formatted(m_dateTime.get(), time);
+    return formatted(formats().dateTime.get(), time);
 }
 
 QString DateTexts::mediumTime(TimePoint time) const
 {
-    return formatted(m_time.get(), time);
+    return formatted(formats().time.get(), time);
 }
 
 QString DateTexts::relative(TimePoint time, TimePoint now) const
@@ -140,7 +158,7 @@ QString DateTexts::relative(TimePoint time, TimePoint now) const
     icu::UnicodeString text;
     UErrorCode status = U_ZERO_ERROR;
     // The sign of a zero decides between "ago" and "in".
-    m_relative->formatNumeric(offset > 0s ? count : -count, unit->unit, text, status);
+    formats().relative->formatNumeric(offset > 0s ? count : -count, unit->unit, text, status);
     return plainBlanks(text);
 }
 

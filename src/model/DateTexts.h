@@ -5,23 +5,16 @@
 
 #include <QString>
 
-#include <unicode/uversion.h>
-
 #include <memory>
-
-// ICU renames its namespace with every version.
-U_NAMESPACE_BEGIN
-class DateFormat;
-class RelativeDateTimeFormatter;
-U_NAMESPACE_END
 
 namespace aerolith {
 
-/// Times as the user's locale writes them. Blanks are plain spaces. One thread at a time.
+/// Times as the user's locale writes them. Blanks are plain spaces. What it needs to know of the locale is
+/// loaded when the first text is asked for. One thread at a time.
 class DateTexts
 {
 public:
-    explicit DateTexts(const UserLocale& locale);
+    explicit DateTexts(UserLocale locale);
     ~DateTexts();
 
     /// Medium date and medium time, joined as the locale joins them in a sentence:
@@ -36,9 +29,12 @@ public:
     [[nodiscard]] QString relative(TimePoint time, TimePoint now) const;
 
 private:
-    std::unique_ptr<icu::DateFormat> m_dateTime;
-    std::unique_ptr<icu::DateFormat> m_time;
-    std::unique_ptr<icu::RelativeDateTimeFormatter> m_relative;
+    struct Formats;
+
+    [[nodiscard]] const Formats& formats() const;
+
+    UserLocale m_locale;
+    mutable std::unique_ptr<Formats> m_formats;
 };
 
 } // namespace aerolith
