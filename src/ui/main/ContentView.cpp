@@ -41,7 +41,7 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
     , m_sidebar(new Sidebar(scanner, surroundings.userDefaults, surroundings.detail.exporter))
     , m_detailColumn(new QStackedWidget)
     , m_backdrop(new WavingBackground(scanner))
-    , m_details(new NetworkDetailView(scanner, surroundings.detail))
+    , m_surroundings(surroundings.detail)
     , m_publish([this] { showSelected(); })
 {
     m_sidebar->setObjectName(u"sidebar"_s);
@@ -49,7 +49,6 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
     m_sidebar->setMaximumWidth(widestSidebar);
     m_backdrop->setObjectName(u"backdrop"_s);
     m_detailColumn->addWidget(m_backdrop);
-    m_detailColumn->addWidget(m_details);
 
     setHandleWidth(1);
     addWidget(m_sidebar);
@@ -84,14 +83,23 @@ std::optional<WiFiNetwork> ContentView::selectedNetwork() const
 
 QString ContentView::title() const
 {
-    return m_detailColumn->currentWidget() == m_details ? m_details->windowTitle() : u"Aerolith"_s;
+    return m_detailColumn->currentWidget() == m_backdrop ? u"Aerolith"_s : m_details->windowTitle();
+}
+
+NetworkDetailView& ContentView::details()
+{
+    if (!m_details) {
+        m_details = new NetworkDetailView(m_scanner, m_surroundings);
+        m_detailColumn->addWidget(m_details);
+    }
+    return *m_details;
 }
 
 void ContentView::showSelected()
 {
     const std::optional<WiFiNetwork> network = selectedNetwork();
     if (network) {
-        m_details->showNetwork(*network);
+        details().showNetwork(*network);
         m_detailColumn->setCurrentWidget(m_details);
     } else {
         m_detailColumn->setCurrentWidget(m_backdrop);

@@ -43,13 +43,16 @@ protected:
 private:
     /// The selected access point's record, as long as it is listed.
     [[nodiscard]] std::optional<WiFiNetwork> selectedNetwork() const;
+    [[nodiscard]] NetworkDetailView& details();
     void showSelected();
 
     WiFiScanner& m_scanner;
     Sidebar* m_sidebar;
     QStackedWidget* m_detailColumn;
     WavingBackground* m_backdrop;
-    NetworkDetailView* m_details;
+    const DetailSurroundings m_surroundings;
+    /// Null before the first selection: the window comes up sooner without it.
+    NetworkDetailView* m_details = nullptr;
     OncePerTurn m_publish;
 };
 

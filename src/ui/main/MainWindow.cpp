@@ -2,9 +2,10 @@
 
 #include "ui/common/Divider.h"
 #include "ui/detail/NetworkInfoDialog.h"
+#include "ui/main/ToolBar.h"
 #include "ui/settings/SettingsView.h"
 
-#include <QToolBar>
+#include <QVBoxLayout>
 
 namespace aerolith {
 
@@ -15,13 +16,6 @@ namespace {
 constexpr QSize minimumContent{800, 500};
 constexpr QSize symbolSize{18, 18};
 constexpr int separatorHeight = 16;
-
-QWidget* makeSpace()
-{
-    auto* space = new QWidget;
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    return space;
-}
 
 QWidget* makeSeparator()
 {
@@ -34,6 +28,7 @@ SymbolButton* makeButton(const QString& objectName, const QString& symbol, const
 {
     auto* button = new SymbolButton(symbol, name);
     button->setObjectName(objectName);
+    button->setIconSize(symbolSize);
     return button;
 }
 
@@ -57,8 +52,13 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
     setObjectName(u"mainWindow"_s);
     m_content->setObjectName(u"content"_s);
     m_content->setMinimumSize(minimumContent);
-    addToolBar();
-    setCentralWidget(m_content);
+    auto* rows = new QWidget;
+    auto* column = new QVBoxLayout(rows);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(makeToolBar());
+    column->addWidget(m_content);
+    setCentralWidget(rows);
     m_content->focusList();
 
     connect(m_sidebarButton, &SymbolButton::clicked, this, &MainWindow::toggleSidebar);
@@ -69,19 +69,16 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
     setWindowTitle(m_content->title());
 }
 
-void MainWindow::addToolBar()
+QWidget* MainWindow::makeToolBar()
 {
-    auto* toolBar = new QToolBar;
+    auto* toolBar = new ToolBar;
     toolBar->setObjectName(u"toolBar"_s);
-    toolBar->setMovable(false);
-    toolBar->setIconSize(symbolSize);
-    toolBar->toggleViewAction()->setVisible(false);
-    toolBar->addWidget(m_sidebarButton);
-    toolBar->addWidget(makeSpace());
-    toolBar->addWidget(m_settingsButton);
-    toolBar->addWidget(makeSeparator());
-    toolBar->addWidget(m_infoButton);
-    QMainWindow::addToolBar(toolBar);
+    toolBar->row().addWidget(m_sidebarButton);
+    toolBar->row().addStretch();
+    toolBar->row().addWidget(m_settingsButton);
+    toolBar->row().addWidget(makeSeparator());
+    toolBar->row().addWidget(m_infoButton);
+    return toolBar;
 }
 
 void MainWindow::openSettings()

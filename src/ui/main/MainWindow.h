@@ -17,7 +17,7 @@ public:
     MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundings);
 
 private:
-    void addToolBar();
+    [[nodiscard]] QWidget* makeToolBar();
     void openSettings();
     void openNetworkInfo();
     void toggleSidebar();

@@ -75,7 +75,7 @@ TEST_F(MainWindowTest, ListsWhatTheScannerPublishes)
     EXPECT_TRUE(showsBackdrop());
 
     window.resize(10, 10);
-    EXPECT_EQ(window.centralWidget()->size(), QSize(800, 500));
+    EXPECT_EQ(child<QWidget>(u"content"_s).size(), QSize(800, 500));
 }
 
 TEST_F(MainWindowTest, ShowsTheDetailsOfTheSelectedNetworkWhileItIsListed)
