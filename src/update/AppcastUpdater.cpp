@@ -99,8 +99,11 @@ void AppcastUpdater::check(Asker asker)
 {
     m_automaticChecks.noteCheck();
     m_feed.clear();
+    if (m_manager == nullptr) {
+        m_manager = std::make_unique<QNetworkAccessManager>();
+    }
     m_transfer = std::make_unique<HttpsTransfer>(
-        m_manager, m_options.https, m_options.source->feed, m_options.https.longestFeed,
+        *m_manager, m_options.https, m_options.source->feed, m_options.https.longestFeed,
         HttpsConsumer{.receive = [this](const QByteArray& bytes) { return receiveFeed(bytes); },
                       .end = [this, asker](const Failure& failure) { showOutcome(asker, failure); }});
 }
@@ -146,7 +149,7 @@ void AppcastUpdater::download()
     }
     const AppcastItem item = available->item;
     m_download = std::make_unique<UpdateDownload>(
-        m_manager, m_options.https, item, m_options.source->key, m_options.folder,
+        *m_manager, m_options.https, item, m_options.source->key, m_options.folder,
         UpdateDownload::Observer{
             .progress =
                 [this, item](qint64 received) {

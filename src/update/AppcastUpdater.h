@@ -95,7 +95,8 @@ private:
     AutomaticChecks m_automaticChecks;
     UpdateState m_state;
     QByteArray m_feed;
-    QNetworkAccessManager m_manager;
+    /// Made for the first check: many a program never makes one.
+    std::unique_ptr<QNetworkAccessManager> m_manager;
     /// Of the feed.
     std::unique_ptr<HttpsTransfer> m_transfer;
     std::unique_ptr<UpdateDownload> m_download;

@@ -25,10 +25,12 @@ bool isRedirect(const QNetworkReply& reply)
     return statusOf(reply) / 100 == 3;
 }
 
-QNetworkRequest requestFor(const QUrl& url, const QSslConfiguration& tls)
+QNetworkRequest requestFor(const QUrl& url, const std::optional<QSslConfiguration>& tls)
 {
     QNetworkRequest request(url);
-    request.setSslConfiguration(tls);
+    if (tls) {
+        request.setSslConfiguration(*tls);
+    }
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);

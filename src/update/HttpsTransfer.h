@@ -19,8 +19,8 @@ namespace aerolith {
 /// How files are fetched.
 struct HttpsSettings
 {
-    /// Whom to trust.
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    /// Whom to trust; absent: whom the system does, which takes a while to find out.
+    std::optional<QSslConfiguration> tls = {};
     /// How long a server may be silent.
     std::chrono::milliseconds longestSilence{30'000};
     /// How long the feed may take as a whole; a download takes as long as the user waits.
