@@ -1,15 +1,12 @@
 #include "ui/main/NetworkListView.h"
 
 #include "ui/main/NetworkRowDelegate.h"
+#include "ui/main/NetworkRowView.h"
 
 #include <QContextMenuEvent>
-#include <QCursor>
-#include <QHoverEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-
-#include <algorithm>
 
 namespace aerolith {
 
@@ -23,34 +20,22 @@ bool isRightButton(const QEvent* event)
 
 } // namespace
 
-NetworkListView::NetworkListView(QWidget* parent) : QListView(parent)
+NetworkListView::NetworkListView(QWidget* parent)
+    : SteadyListView(
+          [](const WiFiNetwork& network, bool isHidden) {
+              return NetworkRowView{.network = network, .isHidden = isHidden}.accessibleText();
+          },
+          parent)
 {
-    setModel(&m_networks);
     setItemDelegate(new NetworkRowDelegate(this));
     setUniformItemSizes(true);
-    setVerticalScrollMode(ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
-    setFrameShape(QFrame::NoFrame);
-    viewport()->setAttribute(Qt::WA_Hover);
 }
 
 void NetworkListView::showNetworks(const ShownNetworks& shown)
 {
     const QScopedValueRollback updating(m_updating, true);
-    const bool scrolls = hasAutoScroll();
-    setAutoScroll(false);
-    const int focusedRow = currentIndex().row();
-
-    m_networks.show(shown);
-    restoreFocus(focusedRow);
-    highlightSelected();
-    if (isVisible()) {
-        executeDelayedItemsLayout();
-        updateHover();
-    }
-    setAutoScroll(scrolls);
+    SteadyListView::showNetworks(shown);
 }
 
 void NetworkListView::showSelected(const QString& bssid)
@@ -63,32 +48,13 @@ void NetworkListView::showSelected(const QString& bssid)
     highlightSelected();
 }
 
-/// When the focused row is gone, the row that took its place has the focus.
-void NetworkListView::restoreFocus(int row)
-{
-    if (row >= 0 && !currentIndex().isValid() && m_networks.rowCount() > 0) {
-        selectionModel()->setCurrentIndex(m_networks.index(std::min(row, m_networks.rowCount() - 1)),
-                                          QItemSelectionModel::NoUpdate);
-    }
-}
-
 void NetworkListView::highlightSelected()
 {
-    const QModelIndex selected = m_networks.indexOf(m_selectedBSSID);
+    const QModelIndex selected = rows().indexOf(m_selectedBSSID);
     if (!selected.isValid()) {
         clearSelection();
     } else if (!selectionModel()->isSelected(selected)) {
         selectionModel()->setCurrentIndex(selected, QItemSelectionModel::ClearAndSelect);
-    }
-}
-
-/// The pointer stands still while rows move below it.
-void NetworkListView::updateHover()
-{
-    if (viewport()->underMouse()) {
-        const QPointF position = viewport()->mapFromGlobal(QCursor::pos());
-        QHoverEvent move(QEvent::HoverMove, position, QCursor::pos(), position);
-        viewportEvent(&move);
     }
 }
 
@@ -103,7 +69,7 @@ void NetworkListView::contextMenuEvent(QContextMenuEvent* event)
         scrollTo(row);
     }
     const QPoint position = isByKey ? visualRect(row).center() : event->pos();
-    Q_EMIT menuRequested(m_networks.networks()[row.row()], viewport()->mapToGlobal(position));
+    Q_EMIT menuRequested(rows().networks()[row.row()], viewport()->mapToGlobal(position));
 }
 
 void NetworkListView::keyPressEvent(QKeyEvent* event)
@@ -112,7 +78,7 @@ void NetworkListView::keyPressEvent(QKeyEvent* event)
     const bool asksForMenu = event->key() == Qt::Key_Menu ||
                              (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
     if (!asksForMenu) {
-        QListView::keyPressEvent(event);
+        SteadyListView::keyPressEvent(event);
         return;
     }
     QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), QPoint());
@@ -122,7 +88,7 @@ void NetworkListView::keyPressEvent(QKeyEvent* event)
 QItemSelectionModel::SelectionFlags NetworkListView::selectionCommand(const QModelIndex& index,
                                                                       const QEvent* event) const
 {
-    const auto command = QListView::selectionCommand(index, event);
+    const auto command = SteadyListView::selectionCommand(index, event);
     // The user selects another access point, never none, and not by asking for its menu.
     const bool deselects = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
     return deselects || isRightButton(event) ? QItemSelectionModel::NoUpdate : command;
@@ -130,24 +96,14 @@ QItemSelectionModel::SelectionFlags NetworkListView::selectionCommand(const QMod
 
 void NetworkListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
-    QListView::selectionChanged(selected, deselected);
-    const QModelIndexList rows = selectionModel()->selectedIndexes();
-    if (m_updating || rows.isEmpty()) {
+    SteadyListView::selectionChanged(selected, deselected);
+    const QModelIndexList highlighted = selectionModel()->selectedIndexes();
+    if (m_updating || highlighted.isEmpty()) {
         return;
     }
-    const WiFiNetwork network = m_networks.networks()[rows.first().row()];
+    const WiFiNetwork network = rows().networks()[highlighted.first().row()];
     m_selectedBSSID = network.bssid;
     Q_EMIT chosen(network);
-}
-
-void NetworkListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
-{
-    // Otherwise a neighbour of the focused row would be selected in its place.
-    const int focused = currentIndex().row();
-    if (focused >= start && focused <= end) {
-        selectionModel()->clearCurrentIndex();
-    }
-    QListView::rowsAboutToBeRemoved(parent, start, end);
 }
 
 } // namespace aerolith

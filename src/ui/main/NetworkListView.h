@@ -1,23 +1,19 @@
 #pragma once
 
-#include "ui/main/NetworkListModel.h"
-
-#include <QListView>
-
-#include <optional>
+#include "ui/list/SteadyListView.h"
 
 namespace aerolith {
 
-/// The list of access points. What the user sees of it stays put while scans change it: scroll position,
-/// keyboard focus, selection, and the row under the pointer.
-class NetworkListView : public QListView
+/// The list of access points, one of them selected. The selection stays with its access point while scans
+/// change the list.
+class NetworkListView : public SteadyListView
 {
     Q_OBJECT
 
 public:
     explicit NetworkListView(QWidget* parent = nullptr);
 
-    void showNetworks(const ShownNetworks& shown);
+    void showNetworks(const ShownNetworks& shown) override;
 
     /// Highlights the access point, listed or not yet; null for none. Scrolls to it if that is a change.
     void showSelected(const QString& bssid);
@@ -35,14 +31,12 @@ protected:
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                        const QEvent* event) const override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
-    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+
+    void rowsShown() override { highlightSelected(); }
 
 private:
-    void restoreFocus(int row);
     void highlightSelected();
-    void updateHover();
 
-    NetworkListModel m_networks;
     /// Null when nothing is selected.
     QString m_selectedBSSID;
     /// While the program, not the user, changes rows and selection.

@@ -1,6 +1,6 @@
 #include "ui/main/NetworkRowDelegate.h"
 
-#include "ui/main/NetworkListModel.h"
+#include "ui/list/NetworkListModel.h"
 #include "ui/main/NetworkRowView.h"
 
 #include <QApplication>
@@ -24,8 +24,9 @@ void NetworkRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &background, painter, option.widget);
 
-    auto row = index.data(NetworkListModel::rowRole).value<NetworkRowView>();
-    row.isSelected = option.state.testFlag(QStyle::State_Selected);
+    const NetworkRowView row{.network = index.data(NetworkListModel::networkRole).value<WiFiNetwork>(),
+                             .isHidden = index.data(NetworkListModel::isHiddenRole).toBool(),
+                             .isSelected = option.state.testFlag(QStyle::State_Selected)};
     QPalette palette = option.palette;
     palette.setCurrentColorGroup(QPalette::Active);
     painter->setLayoutDirection(option.direction);

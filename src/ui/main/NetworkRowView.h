@@ -2,7 +2,6 @@
 
 #include "model/WiFiNetwork.h"
 
-#include <QMetaType>
 #include <QString>
 
 class QFont;
@@ -48,5 +47,3 @@ struct NetworkRowView
 };
 
 } // namespace aerolith
-
-Q_DECLARE_METATYPE(aerolith::NetworkRowView)

@@ -1,10 +1,16 @@
-#include "ui/main/NetworkListModel.h"
+#include "ui/list/NetworkListModel.h"
 
-#include "ui/main/NetworkRowView.h"
+#include "ui/common/PlainText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace aerolith {
+
+NetworkListModel::NetworkListModel(Describe describe, QObject* parent)
+    : QAbstractListModel(parent), m_describe(std::move(describe))
+{
+}
 
 void NetworkListModel::show(const ShownNetworks& shown)
 {
@@ -88,14 +94,16 @@ QVariant NetworkListModel::data(const QModelIndex& index, int role) const
         return {};
     }
     const WiFiNetwork& network = networks()[index.row()];
-    const NetworkRowView row{.network = network, .isHidden = m_shown.hidden.contains(network.bssid)};
+    const bool isHidden = m_shown.hidden.contains(network.bssid);
     switch (role) {
-    case rowRole:
-        return QVariant::fromValue(row);
+    case networkRole:
+        return QVariant::fromValue(network);
+    case isHiddenRole:
+        return isHidden;
     case Qt::DisplayRole:
-        return row.name();
+        return singleLine(network.ssid);
     case Qt::AccessibleTextRole:
-        return row.accessibleText();
+        return m_describe(network, isHidden);
     default:
         return {};
     }

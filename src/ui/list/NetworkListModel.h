@@ -1,9 +1,11 @@
 #pragma once
 
-#include "ui/main/NetworkListChanges.h"
+#include "ui/list/NetworkListChanges.h"
 
 #include <QAbstractListModel>
 #include <QString>
+
+#include <functional>
 
 namespace aerolith {
 
@@ -14,10 +16,15 @@ class NetworkListModel : public QAbstractListModel
     Q_OBJECT
 
 public:
-    /// A NetworkRowView, not selected.
-    static constexpr int rowRole = Qt::UserRole;
+    /// A WiFiNetwork.
+    static constexpr int networkRole = Qt::UserRole;
+    /// Whether the user has hidden the access point, which is listed because hidden ones are shown.
+    static constexpr int isHiddenRole = Qt::UserRole + 1;
 
-    using QAbstractListModel::QAbstractListModel;
+    /// A row in words, for assistive technology.
+    using Describe = std::function<QString(const WiFiNetwork& network, bool isHidden)>;
+
+    explicit NetworkListModel(Describe describe, QObject* parent = nullptr);
 
     /// Announces at most one insertion, one change of order and one removal, then the rows that look
     /// different from before.
@@ -37,6 +44,7 @@ private:
     void removeBehind(const WiFiNetworkList& networks);
     void announce(const QList<int>& changedRows);
 
+    Describe m_describe;
     ShownNetworks m_shown;
 };
 

@@ -1,4 +1,4 @@
-#include "ui/main/NetworkListChanges.h"
+#include "ui/list/NetworkListChanges.h"
 
 #include <QHash>
 
@@ -8,6 +8,14 @@
 namespace aerolith {
 
 namespace {
+
+/// The joined network's row may show its signal history.
+bool hasNewSample(const WiFiNetwork& before, const WiFiNetwork& after)
+{
+    const SignalHistoryList& samples = after.signalHistory;
+    return after.isCurrentNetwork && !samples.isEmpty() &&
+           (before.signalHistory.isEmpty() || before.signalHistory.last().id != samples.last().id);
+}
 
 bool looksTheSame(const WiFiNetwork& a, const WiFiNetwork& b)
 {
@@ -30,7 +38,8 @@ QList<int> rowsChangedInPlace(const ShownNetworks& before, const ShownNetworks& 
             continue;
         }
         const WiFiNetwork& network = after.networks[row];
-        if (!looksTheSame(before.networks[rowBefore[row]], network) ||
+        const WiFiNetwork& last = before.networks[rowBefore[row]];
+        if (!looksTheSame(last, network) || hasNewSample(last, network) ||
             (marksDiffer && isMarkChanged(before, after, network.bssid))) {
             changed.append(row);
         }

@@ -1,7 +1,6 @@
-#include "ui/main/NetworkListModel.h"
+#include "ui/list/NetworkListModel.h"
 
 #include "support/Printing.h"
-#include "ui/main/NetworkRowView.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -42,8 +41,7 @@ QString rows(const NetworkListModel& model)
 {
     QString letters;
     for (int row = 0; row < model.rowCount(); ++row) {
-        letters +=
-            model.data(model.index(row), NetworkListModel::rowRole).value<NetworkRowView>().network.bssid;
+        letters += model.index(row).data(NetworkListModel::networkRole).value<WiFiNetwork>().bssid;
     }
     return letters;
 }
@@ -63,7 +61,7 @@ std::vector<int> changedRows(const QSignalSpy& dataChanged)
 class NetworkListModelTest : public testing::Test
 {
 protected:
-    NetworkListModel model;
+    NetworkListModel model{[](const WiFiNetwork& network, bool) { return network.ssid; }};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -112,7 +110,7 @@ TEST_F(NetworkListModelTest, AnnouncesOnlyRowsThatLookDifferent)
 {
     ShownNetworks networks = shown(u"abcdef"_s);
     model.show(networks);
-    const QSignalSpy dataChanged(&model, &QAbstractItemModel::dataChanged);
+    QSignalSpy dataChanged(&model, &QAbstractItemModel::dataChanged);
     const QSignalSpy layoutChanged(&model, &QAbstractItemModel::layoutChanged);
 
     // A new record of the same look: what it adds is not in the row.
@@ -128,7 +126,15 @@ TEST_F(NetworkListModelTest, AnnouncesOnlyRowsThatLookDifferent)
     EXPECT_THAT(changedRows(dataChanged), ElementsAre(0, 1, 3, 4));
     EXPECT_EQ(dataChanged.size(), 2) << "one signal for each run of rows";
     EXPECT_TRUE(layoutChanged.isEmpty());
-    EXPECT_TRUE(model.data(model.index(4), NetworkListModel::rowRole).value<NetworkRowView>().isHidden);
+    EXPECT_TRUE(model.index(4).data(NetworkListModel::isHiddenRole).toBool());
+
+    dataChanged.clear();
+    for (WiFiNetwork& network : networks.networks) {
+        network.signalHistory =
+            network.signalHistory.appended({.id = QUuid::createUuid(), .timestamp = {}}, 10);
+    }
+    model.show(networks);
+    EXPECT_THAT(changedRows(dataChanged), ElementsAre(1)) << "the joined network's history may be in its row";
 }
 
 TEST_F(NetworkListModelTest, TellsEveryMixUpInThreeSteps)
