@@ -12,6 +12,25 @@ CWNetwork network(const QString& bssid, const QString& ssid, qint64 rssi)
     return result;
 }
 
+Failure FakeInterface::setPower(bool on)
+{
+    if (!m_air.powerRefusal) {
+        m_air.isOn = on;
+    }
+    return m_air.powerRefusal;
+}
+
+Failure FakeInterface::associateToNetwork(const CWNetwork& network, const std::optional<QString>& password)
+{
+    const auto copied =
+        password ? std::optional(QString(password->constData(), password->size())) : std::nullopt;
+    m_air.joins.append({.ssidData = network.ssidData, .password = copied});
+    if (m_air.duringJoin) {
+        m_air.duringJoin();
+    }
+    return m_air.joinFailure;
+}
+
 Result<QList<CWNetwork>> FakeInterface::scanForNetworksWithSSID(const std::optional<QByteArray>& ssid)
 {
     if (m_air.duringScan) {

@@ -11,6 +11,16 @@ namespace aerolith {
 /// A scan result with an address and a name; what else it is, the test sets.
 [[nodiscard]] CWNetwork network(const QString& bssid, const QString& ssid, qint64 rssi = -50);
 
+/// One attempt to join a network.
+struct FakeJoin
+{
+    QByteArray ssidData;
+    /// A copy of its own: the program overwrites what it passes.
+    std::optional<QString> password;
+
+    friend bool operator==(const FakeJoin&, const FakeJoin&) = default;
+};
+
 /// What the machine's Wi-Fi answers, set by the test.
 struct FakeAir
 {
@@ -21,6 +31,14 @@ struct FakeAir
     QList<QByteArray> askedFor;
     /// Runs during each scan, on the thread that scans.
     std::function<void()> duringScan;
+    bool isOn = true;
+    /// Why the radio cannot be switched.
+    Failure powerRefusal;
+    QList<FakeJoin> joins;
+    /// Why a join fails.
+    Failure joinFailure;
+    /// Runs during each join.
+    std::function<void()> duringJoin;
 };
 
 class FakeInterface : public CWInterface
@@ -40,17 +58,15 @@ public:
 
     [[nodiscard]] std::optional<QList<CWChannel>> supportedWLANChannels() const override { return {}; }
 
-    [[nodiscard]] bool powerOn() const override { return true; }
+    [[nodiscard]] bool powerOn() const override { return m_air.isOn; }
 
-    [[nodiscard]] Failure setPower(bool) override { return {}; }
+    [[nodiscard]] Failure setPower(bool on) override;
 
     [[nodiscard]] Result<QList<CWNetwork>>
     scanForNetworksWithSSID(const std::optional<QByteArray>& ssid) override;
 
-    [[nodiscard]] Failure associateToNetwork(const CWNetwork&, const std::optional<QString>&) override
-    {
-        return {};
-    }
+    [[nodiscard]] Failure associateToNetwork(const CWNetwork& network,
+                                             const std::optional<QString>& password) override;
 
 private:
     FakeAir& m_air;

@@ -38,6 +38,11 @@ QColor green(const QPalette& palette)
     return isDark(palette) ? QColor(48, 209, 88) : QColor(52, 199, 89);
 }
 
+QColor blue(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(10, 132, 255) : QColor(0, 122, 255);
+}
+
 QColor red(const QPalette& palette)
 {
     return isDark(palette) ? QColor(255, 69, 58) : QColor(255, 59, 48);

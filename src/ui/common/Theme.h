@@ -37,6 +37,8 @@ inline constexpr double secondaryOpacity = 0.65;
 
 [[nodiscard]] QColor green(const QPalette& palette);
 
+[[nodiscard]] QColor blue(const QPalette& palette);
+
 [[nodiscard]] QColor red(const QPalette& palette);
 
 /// The text colour at `secondaryOpacity` over `background`, or at the lowest opacity above it that is
