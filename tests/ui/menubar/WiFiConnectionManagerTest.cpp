@@ -1,0 +1,211 @@
+#include "ui/menubar/WiFiConnectionManager.h"
+
+#include "support/FakeWiFi.h"
+#include "support/Printing.h"
+#include "ui/menubar/DialogDriver.h"
+#include "ui/menubar/WaitState.h"
+
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CWNetwork withSecurity(std::initializer_list<CWSecurity> codes, const QString& ssid = u"Cafe"_s)
+{
+    CWNetwork found = network(u"a"_s, ssid);
+    for (const CWSecurity code : codes) {
+        found.securityCodes.insert(static_cast<int>(code));
+    }
+    return found;
+}
+
+QLineEdit& field(const QDialog& dialog)
+{
+    return *dialog.findChild<QLineEdit*>(u"password"_s);
+}
+
+void press(const QDialog& dialog, const QString& button)
+{
+    QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+}
+
+class WiFiConnectionManagerTest : public testing::Test
+{
+protected:
+    FakeWiFiClient wifi;
+    WiFiConnectionManager manager{wifi};
+    DialogDriver user;
+};
+
+} // namespace
+
+TEST_F(WiFiConnectionManagerTest, AsksForAPasswordWhereTheKindOfNetworkNeedsOne)
+{
+    const struct
+    {
+        std::initializer_list<CWSecurity> codes;
+        bool asks;
+    } kinds[] = {
+        {{}, false},
+        {{CWSecurity::none}, false},
+        {{CWSecurity::owe}, false},
+        {{CWSecurity::wpa2Enterprise, CWSecurity::enterprise}, false},
+        {{CWSecurity::wpa3Enterprise}, false},
+        {{CWSecurity::dynamicWEP}, false},
+        {{CWSecurity::personal}, false},
+        {{CWSecurity::wep}, true},
+        {{CWSecurity::wpaPersonal}, true},
+        {{CWSecurity::wpaPersonalMixed}, true},
+        {{CWSecurity::wpa2Personal}, true},
+        {{CWSecurity::wpa3Personal}, true},
+        {{CWSecurity::wpa3Transition, CWSecurity::wpa3Personal}, true},
+    };
+
+    for (const auto& [codes, asks] : kinds) {
+        SCOPED_TRACE(codes.size() == 0 ? -1 : static_cast<int>(*codes.begin()));
+        user.shown.clear();
+        wifi.air.joins.clear();
+        manager.connectTo(withSecurity(codes));
+        EXPECT_EQ(user.shown, asks ? QStringList{u"Connect to \u2068Cafe\u2069|Enter the network password:"_s}
+                                   : QStringList());
+        EXPECT_EQ(wifi.air.joins, asks ? QList<FakeJoin>() : QList<FakeJoin>({{"Cafe", {}}}))
+            << "dismissed, nothing is joined";
+    }
+}
+
+TEST_F(WiFiConnectionManagerTest, JoinsWithThePasswordAsItWasTyped)
+{
+    const CWNetwork cafe = withSecurity({CWSecurity::wpa2Personal});
+    for (const QString& typed : {u" p\u00E4ss word "_s, QString(), QString(100, u'x')}) {
+        wifi.air.joins.clear();
+        user.answer([&](const QDialog& dialog) {
+            EXPECT_EQ(dialog.focusWidget(), &field(dialog));
+            EXPECT_EQ(field(dialog).size(), QSize(200, 24));
+            field(dialog).insert(typed);
+            EXPECT_EQ(field(dialog).text(), typed);
+            EXPECT_NE(field(dialog).displayText(), typed.isEmpty() ? u"-"_s : typed) << "masked";
+            QTest::keyClick(&field(dialog), Qt::Key_Return);
+        });
+        manager.connectTo(cafe);
+        EXPECT_EQ(wifi.air.joins, QList<FakeJoin>({{"Cafe", typed}}));
+    }
+    EXPECT_EQ(user.shown.size(), 3) << "a join that has worked says nothing";
+}
+
+TEST_F(WiFiConnectionManagerTest, ShowsThatItIsBusyWhileItJoins)
+{
+    QPointer<QDialog> prompt;
+    user.answer([&](QDialog& dialog) {
+        prompt = &dialog;
+        QTest::keyClicks(&field(dialog), u"secret"_s);
+        press(dialog, u"connect"_s);
+    });
+    wifi.air.duringJoin = [&] {
+        ASSERT_NE(prompt, nullptr);
+        EXPECT_TRUE(prompt->isVisible());
+        EXPECT_TRUE(prompt->findChild<QWidget*>(u"connecting"_s)->isVisible());
+        EXPECT_FALSE(field(*prompt).isEnabled());
+        EXPECT_FALSE(prompt->findChild<QPushButton*>(u"cancel"_s)->isEnabled());
+        EXPECT_EQ(field(*prompt).text(), QString()) << "the password does not stay in the field";
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
+    };
+    manager.connectTo(withSecurity({CWSecurity::wpa2Personal}));
+    EXPECT_EQ(prompt, nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    ASSERT_EQ(wifi.air.joins.size(), 1);
+}
+
+TEST_F(WiFiConnectionManagerTest, JoinsNothingWithoutAnInterfaceOrWhenTheUserGivesUp)
+{
+    const CWNetwork secured = withSecurity({CWSecurity::wpa3Personal});
+    user.answer([](const QDialog& dialog) { press(dialog, u"cancel"_s); });
+    user.answer([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    user.answer([](QDialog& dialog) { dialog.close(); });
+    for (int i = 0; i < 3; ++i) {
+        manager.connectTo(secured);
+    }
+    EXPECT_EQ(user.shown.size(), 3);
+
+    wifi.setPresent(false);
+    manager.connectTo(secured);
+    manager.connectTo(withSecurity({}));
+    EXPECT_EQ(user.shown.size(), 3);
+    EXPECT_TRUE(wifi.air.joins.isEmpty());
+}
+
+TEST_F(WiFiConnectionManagerTest, SaysOnceWhyAJoinHasFailed)
+{
+    wifi.air.joinFailure = Error{u"No answer from <b>Cafe</b> & %1"_s};
+    const QString alert = u"Connection Failed|No answer from <b>Cafe</b> & %1"_s;
+    manager.connectTo(withSecurity({}));
+    EXPECT_EQ(user.shown, QStringList{alert});
+
+    user.shown.clear();
+    user.answer([](const QDialog& dialog) { press(dialog, u"connect"_s); });
+    user.answer([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    manager.connectTo(withSecurity({CWSecurity::wep}));
+    ASSERT_EQ(user.shown.size(), 2) << "the password is not asked for again";
+    EXPECT_EQ(user.shown.last(), alert);
+    EXPECT_EQ(wifi.air.joins.size(), 2);
+}
+
+TEST_F(WiFiConnectionManagerTest, ShowsEveryNameAsPlainText)
+{
+    const std::pair<QString, QString> names[] = {
+        {u"<h1>Big</h1> & <img src=x>"_s, u"<h1>Big</h1> & <img src=x>"_s},
+        {u"line\nbreak\u202E"_s, u"line\uFFFDbreak\uFFFD"_s},
+        {QString(32, u'W'), QString(32, u'W')},
+    };
+    for (const auto& [ssid, shown] : names) {
+        user.shown.clear();
+        user.answer([](QDialog& dialog) {
+            auto* message = dialog.findChild<QTextEdit*>(u"message"_s);
+            EXPECT_GE(message->height(), message->document()->size().height()) << "all of it is seen";
+            dialog.reject();
+        });
+        manager.connectTo(withSecurity({CWSecurity::wep}, ssid));
+        EXPECT_EQ(user.shown,
+                  QStringList(u"Connect to \u2068%1\u2069|Enter the network password:"_s.arg(shown)));
+    }
+
+    CWNetwork nameless = withSecurity({CWSecurity::wep});
+    nameless.ssid.reset();
+    user.shown.clear();
+    manager.connectTo(nameless);
+    EXPECT_EQ(user.shown, QStringList(u"Connect to |Enter the network password:"_s));
+}
+
+TEST(WaitState, ForgetsWhatWasPressedWhileItLasted)
+{
+    QPushButton button;
+    button.show();
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
+    const auto postClick = [&] {
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            QCoreApplication::postEvent(&button, new QMouseEvent(type, QPointF(5, 5), QPointF(5, 5),
+                                                                 Qt::LeftButton, held, Qt::NoModifier));
+        }
+    };
+    {
+        const WaitState waiting;
+        postClick();
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(clicks, 0);
+    postClick();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(clicks, 1);
+}
+
+} // namespace aerolith
