@@ -1,0 +1,50 @@
+#include "ui/menubar/TrayStatusItem.h"
+
+namespace aerolith {
+
+TrayStatusItem::TrayStatusItem()
+{
+    if (TrayHost::isThere()) {
+        makeIcon();
+        return;
+    }
+    m_host.emplace();
+    connect(&*m_host, &TrayHost::appeared, this, &TrayStatusItem::lookForTray, Qt::QueuedConnection);
+    // It may have come while nobody was looking.
+    lookForTray();
+}
+
+bool TrayStatusItem::hasButton() const
+{
+    return m_icon && TrayHost::isThere();
+}
+
+void TrayStatusItem::lookForTray()
+{
+    if (m_icon || !TrayHost::isThere()) {
+        return;
+    }
+    m_host.reset();
+    makeIcon();
+    Q_EMIT buttonAppeared();
+}
+
+void TrayStatusItem::makeIcon()
+{
+    m_icon.emplace();
+    connect(&*m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::Context) {
+            Q_EMIT pressed();
+        }
+    });
+}
+
+void TrayStatusItem::setImage(const QIcon& image, const QString& accessibilityDescription)
+{
+    m_icon->setIcon(image);
+    // The only words of an icon that trays hand on to assistive technology.
+    m_icon->setToolTip(accessibilityDescription);
+    m_icon->show();
+}
+
+} // namespace aerolith

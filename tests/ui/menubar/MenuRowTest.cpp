@@ -1,0 +1,149 @@
+#include "support/Printing.h"
+#include "ui/common/Theme.h"
+#include "ui/menubar/NetworkRowInMenu.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRectF wide{0, 40, 300, 33};
+
+NetworkRowInMenu row(const QString& ssid = u"Cafe"_s)
+{
+    NetworkRowInMenu row;
+    row.network.ssid = ssid;
+    row.network.rssi = -60;
+    row.network.security = u"WPA2 Personal"_s;
+    return row;
+}
+
+NetworkRowInMenu joinedRow()
+{
+    NetworkRowInMenu joined = row();
+    joined.network.isCurrentNetwork = true;
+    for (const qint64 rssi : {-70, -50, -60}) {
+        joined.network.signalHistory = joined.network.signalHistory.appended(
+            {.id = QUuid::createUuid(), .timestamp = {}, .rssi = rssi, .noise = -90}, 20);
+    }
+    return joined;
+}
+
+QImage picture(const NetworkRowInMenu& row, const QColor& background = Qt::white, int margin = 0)
+{
+    const QFont font = QApplication::font();
+    QPalette palette;
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::WindowText, background == QColor(Qt::white) ? Qt::black : Qt::white);
+    const int height = NetworkRowInMenu::height(font, row.network.isCurrentNetwork);
+    QImage image(300, height + 2 * margin, QImage::Format_RGB32);
+    image.fill(background);
+    QPainter painter(&image);
+    row.paint(painter, QRectF(0, margin, 300, height), palette, font);
+    return image;
+}
+
+bool differ(const QImage& a, const QImage& b, const QRectF& where)
+{
+    return a.copy(where.toRect()) != b.copy(where.toRect());
+}
+
+} // namespace
+
+TEST(MenuRow, StandsItsElementsSideBySide)
+{
+    const MenuRowMetrics metrics{.nameHeight = 16, .connectWidth = 48, .connectHeight = 14};
+    EXPECT_EQ(menuRowHeight(metrics, false), 33);
+    EXPECT_EQ(menuRowHeight(metrics, true), 62);
+
+    const MenuRowLayout other = layOutMenuRow(wide, metrics, false);
+    EXPECT_EQ(other.row, QRectF(0, 40, 300, 32));
+    EXPECT_EQ(other.bars, QRectF(12, 48.5, 18, 15));
+    EXPECT_EQ(other.symbol, QRectF(276, 50, 12, 12));
+    EXPECT_EQ(other.connect, QRectF(224, 49, 48, 14));
+    EXPECT_EQ(other.name, QRectF(38, 48, 170, 16));
+    EXPECT_EQ(other.divider, QRectF(0, 72, 300, 1));
+    EXPECT_EQ(other.button(), QRectF(212, 40, 88, 32));
+    EXPECT_FALSE(other.chart);
+
+    const MenuRowLayout joined = layOutMenuRow({0, 40, 300, 62}, metrics, true);
+    EXPECT_EQ(joined.name, QRectF(38, 48, 222, 16));
+    EXPECT_EQ(joined.chart, QRectF(38, 70, 222, 20)) << "4 above and below it";
+    EXPECT_FALSE(joined.connect || joined.divider || !joined.button().isEmpty());
+
+    const MenuRowLayout mirrored = other.mirrored();
+    EXPECT_EQ(mirrored.bars, QRectF(270, 48.5, 18, 15));
+    EXPECT_EQ(mirrored.button(), QRectF(0, 40, 88, 32));
+
+    EXPECT_EQ(layOutMenuRow({0, 40, 100, 33}, metrics, false).name.width(), 0) << "too narrow for a name";
+}
+
+TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
+{
+    const NetworkRowInMenu plain = row();
+    NetworkRowInMenu hovered = plain;
+    hovered.isHovering = true;
+    NetworkRowInMenu focused = plain;
+    focused.isFocused = true;
+    const MenuRowLayout places = plain.layout(picture(plain).rect(), QApplication::font(), Qt::LeftToRight);
+
+    for (const QColor background : {QColor(Qt::white), QColor(30, 30, 30)}) {
+        const QImage still = picture(plain, background);
+        EXPECT_TRUE(differ(still, picture(hovered, background), *places.connect));
+        EXPECT_TRUE(differ(still, picture(focused, background), *places.connect));
+        EXPECT_TRUE(differ(still, picture(hovered, background), {100, 1, 20, 5})) << "it is tinted";
+        EXPECT_EQ(still.pixelColor(places.connect->center().toPoint()), background);
+        EXPECT_NE(still.pixelColor(QPoint(150, still.height() - 1)), background) << "the divider";
+
+        NetworkRowInMenu open = plain;
+        open.network.security = u"None"_s;
+        EXPECT_TRUE(differ(still, picture(open, background), places.symbol)) << "its own lock, always";
+    }
+}
+
+TEST(MenuRow, MarksTheJoinedNetworkAndDrawsItsHistory)
+{
+    NetworkRowInMenu joined = joinedRow();
+    const QImage image = picture(joined);
+    const MenuRowLayout places = joined.layout(image.rect(), QApplication::font(), Qt::LeftToRight);
+    const QColor tint = Theme::blended(QColor(0, 122, 255), Qt::white, 0.1);
+    EXPECT_NEAR(image.pixelColor(200, 3).red(), tint.red(), 1);
+    EXPECT_NEAR(image.pixelColor(200, 3).green(), tint.green(), 1);
+    EXPECT_EQ(image.pixelColor(200, image.height() - 1), image.pixelColor(200, 3)) << "no divider";
+    EXPECT_EQ(image.pixelColor(places.symbol.center().toPoint() + QPoint(0, -4)), QColor(52, 199, 89));
+
+    joined.isHovering = true;
+    EXPECT_EQ(picture(joined), image) << "it never shows the pointer";
+    NetworkRowInMenu quiet = joined;
+    quiet.network.signalHistory = {};
+    EXPECT_TRUE(differ(picture(quiet), image, *places.chart));
+    const QRectF besides(0, 0, 300, places.chart->top() - 2);
+    EXPECT_FALSE(differ(picture(quiet), image, besides)) << "the chart keeps to its place";
+}
+
+TEST(MenuRow, ShowsAnyNameAsOneLineWithinTheRow)
+{
+    for (const QString& ssid : {u"one\ntwo\nthree"_s, u"<h1>Big</h1><br>"_s, u"&File %n"_s,
+                                u"Z"_s + u"\u0336\u0353\u0489"_s.repeated(10), QString(32, u'W')}) {
+        const int margin = 10;
+        const QImage image = picture(row(ssid), Qt::white, margin);
+        for (int x = 0; x < image.width(); ++x) {
+            EXPECT_EQ(image.pixelColor(x, margin - 1), QColor(Qt::white));
+            EXPECT_EQ(image.pixelColor(x, image.height() - margin), QColor(Qt::white));
+        }
+        const MenuRowLayout places =
+            row().layout(picture(row()).rect(), QApplication::font(), Qt::LeftToRight);
+        EXPECT_FALSE(differ(picture(row(ssid)), picture(row(u" "_s)), places.button()));
+    }
+    EXPECT_EQ(row(u"a\u202Eb"_s).accessibleText(), u"Connect to \u2068a\uFFFDb\u2069, WPA2"_s);
+    EXPECT_EQ(joinedRow().accessibleText(), u"\u2068Cafe\u2069, joined"_s);
+}
+
+} // namespace aerolith
