@@ -1,10 +1,18 @@
 #include "app/AerolithApp.h"
 
+#include "ui/menubar/TrayStatusItem.h"
+
 namespace aerolith {
 
 AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
+    , m_statusMenu(m_scanner, {.wifiClient = surroundings.wifiClient,
+                               .mainQueue = surroundings.mainQueue,
+                               .workspace = desktop.workspace,
+                               .log = surroundings.log,
+                               .openMainWindow = [this] { showMainWindow(); },
+                               .makeStatusItem = [] { return std::make_unique<TrayStatusItem>(); }})
     , m_dateTexts(surroundings.locale)
     , m_exporter(surroundings.log)
     , m_updaterController(UpdateOptions::standard(surroundings.log),
@@ -19,12 +27,16 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                     .desktop = desktop,
                     .log = surroundings.log,
                     .detail = {.clock = surroundings.clock, .texts = m_dateTexts, .exporter = m_exporter}})
+    , m_hideOnClose(m_mainWindow, [this] { return m_statusMenu.hasStatusItem(); })
 {
 }
 
 void AerolithApp::showMainWindow()
 {
+    m_mainWindow.setWindowState(m_mainWindow.windowState() & ~Qt::WindowMinimized);
     m_mainWindow.show();
+    m_mainWindow.raise();
+    m_mainWindow.activateWindow();
 }
 
 } // namespace aerolith

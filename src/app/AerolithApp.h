@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/HideOnClose.h"
 #include "model/DateTexts.h"
 #include "model/SelectionStore.h"
 #include "model/WiFiScanner.h"
 #include "ui/main/MainWindow.h"
+#include "ui/menubar/StatusMenuController.h"
 #include "ui/update/UpdaterController.h"
 
 namespace aerolith {
@@ -15,15 +17,18 @@ class AerolithApp
 public:
     AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop);
 
+    /// In front of other windows, hidden or minimised before or not.
     void showMainWindow();
 
 private:
     SelectionStore m_selectionStore;
     WiFiScanner m_scanner;
+    StatusMenuController m_statusMenu;
     DateTexts m_dateTexts;
     FileExporter m_exporter;
     UpdaterController m_updaterController;
     MainWindow m_mainWindow;
+    HideOnClose m_hideOnClose;
 };
 
 } // namespace aerolith
