@@ -156,11 +156,15 @@ class Focus:
         self.listener = Atspi.EventListener.new(lambda event: self.told.append(Element(event.source)))
         self.listener.register("object:state-changed:focused")
 
+    def heard(self):
+        """What has been told so far."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self.told
+
     def on(self, role, name):
         def told():
-            while GLib.MainContext.default().iteration(False):
-                pass
-            return any(e.role == role and e.name == name for e in self.told)
+            return any(e.role == role and e.name == name for e in self.heard())
 
         wait_for(f"the focus on {role} {name!r}, not only {self.told}", told)
 
