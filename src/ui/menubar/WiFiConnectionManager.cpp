@@ -4,6 +4,7 @@
 #include "ui/menubar/WaitState.h"
 
 #include <algorithm>
+#include <array>
 
 namespace aerolith {
 
@@ -13,10 +14,9 @@ namespace {
 
 bool needsPassword(const CWNetwork& network)
 {
-    constexpr CWSecurity passwordKinds[] = {CWSecurity::wep, CWSecurity::wpaPersonal,
-                                            CWSecurity::wpaPersonalMixed, CWSecurity::wpa2Personal,
-                                            CWSecurity::wpa3Personal};
-    return std::any_of(std::begin(passwordKinds), std::end(passwordKinds),
+    constexpr std::array passwordKinds{CWSecurity::wep, CWSecurity::wpaPersonal, CWSecurity::wpaPersonalMixed,
+                                       CWSecurity::wpa2Personal, CWSecurity::wpa3Personal};
+    return std::any_of(passwordKinds.begin(), passwordKinds.end(),
                        [&](CWSecurity kind) { return network.supportsSecurity(kind); });
 }
 
