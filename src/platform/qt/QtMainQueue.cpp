@@ -1,5 +1,7 @@
 #include "platform/qt/QtMainQueue.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -38,12 +40,29 @@ private:
 
 void QtMainQueue::async(Task task)
 {
-    QMetaObject::invokeMethod(&m_context, std::move(task), Qt::QueuedConnection);
+    const std::lock_guard lock(m_mutex);
+    m_tasks.push(std::move(task));
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+bool QtMainQueue::event(QEvent* event)
+{
+    if (event->type() != QEvent::User) {
+        return QObject::event(event);
+    }
+    Task task;
+    {
+        const std::lock_guard lock(m_mutex);
+        task = std::move(m_tasks.front());
+        m_tasks.pop();
+    }
+    task();
+    return true;
 }
 
 void QtMainQueue::asyncAfter(Seconds delay, Task task)
 {
-    QTimer::singleShot(timerPeriod(delay), Qt::PreciseTimer, &m_context, std::move(task));
+    QTimer::singleShot(timerPeriod(delay), Qt::PreciseTimer, this, std::move(task));
 }
 
 std::unique_ptr<RepeatingTimer> QtMainQueue::scheduledTimer(Seconds interval, Task task)
