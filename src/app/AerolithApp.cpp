@@ -1,5 +1,6 @@
 #include "app/AerolithApp.h"
 
+#include "app/MainMenu.h"
 #include "ui/menubar/TrayStatusItem.h"
 
 namespace aerolith {
@@ -29,6 +30,9 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                     .detail = {.clock = surroundings.clock, .texts = m_dateTexts, .exporter = m_exporter}})
     , m_hideOnClose(m_mainWindow, [this] { return m_statusMenu.hasStatusItem(); })
 {
+    addMainMenu(
+        m_mainWindow,
+        {.updater = m_updaterController.updater(), .workspace = desktop.workspace, .log = surroundings.log});
 }
 
 void AerolithApp::showMainWindow()

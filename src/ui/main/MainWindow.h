@@ -16,11 +16,13 @@ public:
     /// The scanner outlives the window.
     MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundings);
 
+    /// The sidebar collapses, or comes back as wide as it was.
+    void toggleSidebar();
+
 private:
     [[nodiscard]] QWidget* makeToolBar();
     void openSettings();
     void openNetworkInfo();
-    void toggleSidebar();
     void nameSidebarButton();
 
     WiFiScanner& m_scanner;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Log.h"
+#include "platform/Workspace.h"
+
+namespace aerolith {
+
+class MainWindow;
+class Updater;
+
+/// What the commands of the menu bar work on. All of it outlives the window.
+struct MenuTargets
+{
+    Updater& updater;
+    Workspace& workspace;
+    Log& log;
+};
+
+/// Gives the window its menu bar. Nothing in it opens a further main window. Main thread.
+void addMainMenu(MainWindow& window, const MenuTargets& targets);
+
+/// Composes a message to the maker's mailbox in the user's mail program; what keeps it from that is logged.
+void contactSupport(Workspace& workspace, Log& log);
+
+} // namespace aerolith
