@@ -75,24 +75,23 @@ class Element:
         found = (self.accessible.get_child_at_index(i) for i in range(count))
         return [Element(child) for child in found if child is not None]
 
-    def walk(self):
-        """This element and all below it, in tree order. Objects that vanish meanwhile are left out."""
-        yield self
+    def walk(self, showing=False):
+        """This element and all below it, in tree order; without what doesn't show, if asked for. Objects that vanish
+        meanwhile are left out."""
         with contextlib.suppress(GLib.Error):
+            if showing and not self.showing and self.role != "application":
+                return
+            yield self
             for child in self.children:
-                yield from child.walk()
+                yield from child.walk(showing)
 
     def all(self, role=None, name=None, showing=True):
         def fits(element):
             with contextlib.suppress(GLib.Error):
-                return (
-                    (role is None or element.role == role)
-                    and (name is None or element.name == name)
-                    and (not showing or element.showing)
-                )
+                return (role is None or element.role == role) and (name is None or element.name == name)
             return False
 
-        return [element for element in self.walk() if fits(element)]
+        return [element for element in self.walk(showing) if fits(element)]
 
     def find(self, role=None, name=None):
         """The one such element that shows, as soon as there is one."""
