@@ -98,13 +98,13 @@ TEST_F(CheckTest, RefusesFeedsThatAreNone)
 
 TEST_F(CheckTest, WaitsForNobodyForever)
 {
-    https.longestSilence = std::chrono::milliseconds(300);
-    https.longestFeed = std::chrono::milliseconds(900);
+    https.longestSilence = std::chrono::milliseconds(1500);
+    https.longestFeed = std::chrono::milliseconds(3500);
     makeUpdater();
     EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\nContent-Length: 700\r\n\r\n<rss ", Behind::silence),
-              u"localhost has been silent for 0.3 seconds"_s);
+              u"localhost has been silent for 1.5 seconds"_s);
     EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\nContent-Length: 700\r\n\r\n<rss ", Behind::trickle),
-              u"localhost was not done after 0.9 seconds"_s);
+              u"localhost was not done after 3.5 seconds"_s);
 }
 
 TEST_F(CheckTest, TalksToTheRightServerAlone)
