@@ -44,7 +44,7 @@ class FirstPaintPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QGenericPluginFactoryInterface" FILE "first_paint_probe.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override { return new FirstPaint; }
+    QObject* create(const QString& /*name*/, const QString& /*parameters*/) override { return new FirstPaint; }
 };
 
 } // namespace
