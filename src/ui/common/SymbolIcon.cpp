@@ -1,8 +1,8 @@
 #include "ui/common/SymbolIcon.h"
 
+#include "ui/common/PaintedIconEngine.h"
 #include "ui/common/Symbols.h"
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPointer>
 #include <QWidget>
@@ -13,7 +13,7 @@ namespace aerolith {
 
 namespace {
 
-class SymbolIconEngine : public QIconEngine
+class SymbolIconEngine : public PaintedIconEngine
 {
 public:
     SymbolIconEngine(QString symbol, const QWidget& widget) : m_symbol(std::move(symbol)), m_widget(&widget)
@@ -25,15 +25,6 @@ public:
         const QPalette palette = m_widget ? m_widget->palette() : QPalette();
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : palette.currentColorGroup();
         Symbols::paint(*painter, rect, m_symbol, palette.color(group, QPalette::ButtonText));
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new SymbolIconEngine(*this); }

@@ -1,10 +1,10 @@
 #include "ui/menubar/StatusIcon.h"
 
+#include "ui/common/PaintedIconEngine.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 
 #include <cmath>
@@ -23,7 +23,7 @@ constexpr QColor light(255, 255, 255);
 constexpr QColor dark(46, 46, 46);
 
 /// Drawn when it is asked for, at the size that the desktop wants.
-class RimmedIconEngine : public QIconEngine
+class RimmedIconEngine : public PaintedIconEngine
 {
 public:
     explicit RimmedIconEngine(QString symbol) : m_symbol(std::move(symbol)) {}
@@ -43,15 +43,6 @@ public:
             painter->drawPixmap(inside.topLeft() + way * rimWidth * rect.height(), moved);
         }
         Symbols::paint(*painter, inside, m_symbol, isDark ? light : dark);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new RimmedIconEngine(*this); }
