@@ -6,6 +6,7 @@
 #include "plug/PluggedPlatform.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -34,6 +35,8 @@ int run(int argc, char** argv, const PlatformOptions& options)
     QApplication::setApplicationName(u"Aerolith"_s);
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
     QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(u"org.aerolith.Aerolith"_s, QIcon(u":/aerolith/org.aerolith.Aerolith.svg"_s)));
 
     const auto platform = plugPlatform(options);
     if (!platform.ok()) {
