@@ -1,11 +1,13 @@
 #include "app/AerolithApp.h"
 
 #include "app/MainMenu.h"
+#include "app/instance/ShowInFront.h"
 #include "ui/menubar/TrayStatusItem.h"
 
 namespace aerolith {
 
-AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop)
+AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop,
+                         const OneInstance& instance)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
     , m_statusMenu(m_scanner, {.wifiClient = surroundings.wifiClient,
@@ -28,19 +30,19 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                     .desktop = desktop,
                     .log = surroundings.log,
                     .detail = {.clock = surroundings.clock, .texts = m_dateTexts, .exporter = m_exporter}})
-    , m_hideOnClose(m_mainWindow, [this] { return m_statusMenu.hasStatusItem(); })
+    , m_hideOnClose(m_mainWindow,
+                    [this, &instance] { return instance.isFirst() || m_statusMenu.hasStatusItem(); })
 {
     addMainMenu(
         m_mainWindow,
         {.updater = m_updaterController.updater(), .workspace = desktop.workspace, .log = surroundings.log});
+    QObject::connect(&instance, &OneInstance::startedAgain, &m_mainWindow,
+                     [this](const StartupToken& token) { showInFront(m_mainWindow, token); });
 }
 
 void AerolithApp::showMainWindow()
 {
-    m_mainWindow.setWindowState(m_mainWindow.windowState() & ~Qt::WindowMinimized);
-    m_mainWindow.show();
-    m_mainWindow.raise();
-    m_mainWindow.activateWindow();
+    showInFront(m_mainWindow);
 }
 
 } // namespace aerolith

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/HideOnClose.h"
+#include "app/instance/OneInstance.h"
 #include "model/DateTexts.h"
 #include "model/SelectionStore.h"
 #include "model/WiFiScanner.h"
@@ -11,11 +12,13 @@
 namespace aerolith {
 
 /// The objects that live for the whole process, made once and in this order. A QApplication exists; the
-/// surroundings outlive it. Main thread.
+/// surroundings and the instance outlive it. Main thread.
 class AerolithApp
 {
 public:
-    AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop);
+    /// While the instance is the session's first, starting the program again shows the main window.
+    AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop,
+                const OneInstance& instance);
 
     /// In front of other windows, hidden or minimised before or not.
     void showMainWindow();

@@ -27,7 +27,8 @@ QString helpText()
 {
     return u"Usage: aerolith [--simulate [FILE]]\n"
            "\n"
-           "Surveys the Wi-Fi networks around this machine.\n"
+           "Surveys the Wi-Fi networks around this machine. Started again, it brings its window\n"
+           "to the front; a simulated run is always one of its own.\n"
            "\n"
            "  --simulate [FILE]  follow the simulated radio of a scenario FILE, or a built-in\n"
            "                     neighbourhood, in place of the machine's own\n"

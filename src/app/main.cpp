@@ -27,6 +27,7 @@ int refuse(const Error& error)
 
 int run(int argc, char** argv, const PlatformOptions& options)
 {
+    const StartupToken token = StartupToken::fromEnvironment();
     // The program takes its own arguments only, none of Qt's.
     argc = 1;
     std::optional<DisplayCheck> displayCheck(std::in_place);
@@ -38,14 +39,32 @@ int run(int argc, char** argv, const PlatformOptions& options)
     QApplication::setWindowIcon(
         QIcon::fromTheme(u"org.aerolith.Aerolith"_s, QIcon(u":/aerolith/org.aerolith.Aerolith.svg"_s)));
 
+    OneInstance instance;
+    Failure unclaimed;
+    // A simulated run is one of its own, beside a real one and beside other simulated ones.
+    if (!options.simulate) {
+        const auto role = instance.claim(token);
+        if (!role.ok()) {
+            unclaimed = role.error();
+        } else if (role.value() == OneInstance::Role::second) {
+            std::fputs("aerolith: running already; its window has been brought to the front\n", stderr);
+            return 0;
+        }
+    }
+
     const auto platform = plugPlatform(options);
     if (!platform.ok()) {
         return refuse(platform.error());
     }
+    const Surroundings surroundings = platform.value()->surroundings();
+    if (unclaimed) {
+        surroundings.log.line(unclaimed->description);
+    }
     const TerminationSignals terminationSignals([] { QApplication::exit(0); });
-    AerolithApp app(platform.value()->surroundings(), platform.value()->desktopServices());
+    AerolithApp app(surroundings, platform.value()->desktopServices(), instance);
     app.showMainWindow();
     const int status = QApplication::exec();
+    instance.release();
     platform.value()->stopScanning();
     return status;
 }

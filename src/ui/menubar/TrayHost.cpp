@@ -1,12 +1,10 @@
 #include "ui/menubar/TrayHost.h"
 
+#include "ui/common/X11.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QGuiApplication>
-
-#include <cstdlib>
-#include <memory>
-#include <xcb/xcb.h>
 
 namespace aerolith {
 
@@ -20,33 +18,15 @@ const QString& notifierWatcher()
     return name;
 }
 
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-/// Null where the program is no X11 client.
-xcb_connection_t* x11()
-{
-    const auto* application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return application != nullptr ? application->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t* connection, const QByteArray& name)
-{
-    const auto request = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData());
-    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, request, nullptr),
-                                               &std::free);
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
 /// The tray of the first screen; hardly an X11 display has another.
 bool isX11TrayThere()
 {
-    xcb_connection_t* connection = x11();
+    xcb_connection_t* connection = x11::connection();
     if (connection == nullptr) {
         return false;
     }
-    const auto request = xcb_get_selection_owner(connection, atom(connection, "_NET_SYSTEM_TRAY_S0"));
-    const Owned<xcb_get_selection_owner_reply_t> reply(
+    const auto request = xcb_get_selection_owner(connection, x11::atom(connection, "_NET_SYSTEM_TRAY_S0"));
+    const x11::Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(connection, request, nullptr), &std::free);
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
@@ -63,8 +43,8 @@ TrayHost::TrayHost()
     : m_watcher(notifierWatcher(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration)
 {
     connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::appeared);
-    if (xcb_connection_t* connection = x11()) {
-        m_managerAtom = atom(connection, "MANAGER");
+    if (xcb_connection_t* connection = x11::connection()) {
+        m_managerAtom = x11::atom(connection, "MANAGER");
         qGuiApp->installNativeEventFilter(this);
     }
 }

@@ -1,0 +1,102 @@
+#include "app/instance/OneInstance.h"
+
+#include "app/instance/ApplicationInterface.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
+
+#include <utility>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patienceMilliseconds = 5000;
+/// Those that end while they are asked, one after the other.
+constexpr int mostAttempts = 3;
+
+const QString& serviceName()
+{
+    static const QString name = u"org.aerolith.Aerolith"_s;
+    return name;
+}
+
+const QString& objectPath()
+{
+    static const QString path = u"/org/aerolith/Aerolith"_s;
+    return path;
+}
+
+} // namespace
+
+OneInstance::OneInstance(QDBusConnection bus) : m_bus(std::move(bus))
+{
+    new ApplicationInterface(this, [this](const QVariantMap& platformData) {
+        Q_EMIT startedAgain(StartupToken::fromPlatformData(platformData));
+    });
+}
+
+OneInstance::~OneInstance()
+{
+    release();
+}
+
+Result<OneInstance::Role> OneInstance::claim(const StartupToken& token)
+{
+    if (!m_bus.isConnected()) {
+        return Error{
+            u"Cannot tell whether Aerolith is running already: %1"_s.arg(m_bus.lastError().message())};
+    }
+    Failure failure;
+    const QDeadlineTimer patience(patienceMilliseconds);
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        if (takeName()) {
+            return Role::first;
+        }
+        if (patience.hasExpired()) {
+            break;
+        }
+        failure = activateOther(token, static_cast<int>(patience.remainingTime()));
+        if (!failure) {
+            return Role::second;
+        }
+        // It may have ended meanwhile.
+    }
+    return Error{u"Aerolith is running already, but does not answer: %1"_s.arg(failure->description)};
+}
+
+void OneInstance::release()
+{
+    if (std::exchange(m_isFirst, false)) {
+        m_bus.interface()->unregisterService(serviceName());
+        m_bus.unregisterObject(objectPath());
+    }
+}
+
+bool OneInstance::takeName()
+{
+    // The object comes first: whoever finds the name calls at once.
+    m_bus.registerObject(objectPath(), this);
+    const auto reply = m_bus.interface()->registerService(serviceName());
+    m_isFirst = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
+    if (!m_isFirst) {
+        m_bus.unregisterObject(objectPath());
+    }
+    return m_isFirst;
+}
+
+Failure OneInstance::activateOther(const StartupToken& token, int milliseconds) const
+{
+    auto call = QDBusMessage::createMethodCall(serviceName(), objectPath(), u"org.freedesktop.Application"_s,
+                                               u"Activate"_s);
+    call << token.platformData();
+    // One that has just ended is not started: this process is there already.
+    call.setAutoStartService(false);
+    const QDBusMessage answer = m_bus.call(call, QDBus::Block, milliseconds);
+    return answer.type() == QDBusMessage::ReplyMessage ? Failure() : Error{answer.errorMessage()};
+}
+
+} // namespace aerolith
