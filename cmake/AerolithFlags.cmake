@@ -5,6 +5,13 @@ target_compile_definitions(aerolith_warnings INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 
+# What ships parses bytes from the air: it is hardened, and the same sources give the same bytes in any folder.
+add_compile_options(
+    "$<$<CONFIG:Release>:-fstack-protector-strong;-D_FORTIFY_SOURCE=2;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+add_link_options("$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
+# For qt_add_resources: this version alone has no file times in it.
+set(AEROLITH_RESOURCE_OPTIONS --format-version 1)
+
 set(AEROLITH_SANITIZE "" CACHE STRING "Sanitizers to build with, as given to -fsanitize=")
 if(AEROLITH_SANITIZE)
     add_compile_options(-fsanitize=${AEROLITH_SANITIZE} -fno-omit-frame-pointer)
