@@ -3,12 +3,24 @@
 set -euo pipefail
 trap 'echo "Failed: $BASH_COMMAND" >&2' ERR
 
-if [ "${2:-}" = window ]; then
-    # In a desktop session: the window comes up, and goes when the program is asked to end.
+window_of_process() {
+    timeout 60 xdotool search --sync --all --onlyvisible --pid "$1" --class '^Aerolith$' >/dev/null
+}
+
+# In a desktop session: the window comes up, once by command and once by the session bus, and goes with the program.
+if [ "${2:-}" = in-session ]; then
     "$1/usr/bin/aerolith" --simulate &
-    timeout 60 xdotool search --sync --onlyvisible --class '^Aerolith$' >/dev/null
+    window_of_process $!
     kill $!
     wait $!
+
+    dbus-update-activation-environment DISPLAY XAUTHORITY
+    gdbus call --session --timeout 60 --dest org.aerolith.Aerolith --object-path /org/aerolith/Aerolith \
+        --method org.freedesktop.Application.Activate '{}'
+    pid=$(pgrep --full "^$1/usr/bin/aerolith\$")
+    window_of_process "$pid"
+    kill "$pid"
+    timeout 60 tail --pid "$pid" --follow /dev/null
     exit
 fi
 
@@ -24,7 +36,11 @@ dpkg_there() {
 dpkg_there --install "$1"
 XDG_CONFIG_HOME=$system/var/config "$system/usr/bin/aerolith-scan" --simulate --cycles 1 --list "$system/var/air.csv"
 grep -q '^"Willow Cottage",' "$system/var/air.csv"
-XDG_DATA_DIRS=$system/usr/share:/usr/share "$(dirname "$0")/../desktop/run.sh" "$0" "$system" window
+
+# To the session bus that system's root is here. The machine's own Wi-Fi is left alone.
+sed -i "s,^Exec=,&$system," "$system/usr/share/dbus-1/services/org.aerolith.Aerolith.service"
+XDG_DATA_DIRS=$system/usr/share:/usr/share DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent \
+    "$(dirname "$0")/../desktop/run.sh" "$0" "$system" in-session
 dpkg_there --purge aerolith
 
 left=$(find "$system" -path "$system/var" -prune -o -type f -print)
