@@ -187,7 +187,7 @@ class Program:
             self.process = subprocess.Popen(self.command, env=environment, stdout=log, stderr=subprocess.STDOUT)
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, failed, *_):
         if self.process.poll() is None:
             self.process.send_signal(signal.SIGTERM)
             with contextlib.suppress(subprocess.TimeoutExpired):
@@ -195,6 +195,9 @@ class Program:
         if self.process.poll() is None:
             self.process.kill()
             raise Failure("the program did not end when asked to")
+        # Also where a sanitizer has found something.
+        if self.process.returncode != 0 and failed is None:
+            raise Failure(f"the program ended with {self.process.returncode}: {self.log()[-4000:]}")
 
     def application(self):
         """The program's own root in the tree."""

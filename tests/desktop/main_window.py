@@ -10,9 +10,10 @@ import csv
 import json
 import os
 import re
+import shutil
 import sys
 
-from accessible import Failure, Focus, Program, click, key, wait_for
+from accessible import PATIENCE, Failure, Focus, Program, click, key, wait_for
 
 PANE_ROWS = {
     "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
@@ -191,7 +192,9 @@ def clear_and_refresh(window):
 
 
 def main(path, ssid, results, *arguments):
-    os.makedirs(results, exist_ok=True)
+    # A file from the last run would have the dialog ask whether to replace it.
+    shutil.rmtree(results, ignore_errors=True)
+    os.makedirs(results)
     with Program(path, *arguments, log=f"{results}/log") as program:
         window = MainWindow(program)
         first_scan(window)
@@ -206,6 +209,8 @@ def main(path, ssid, results, *arguments):
         interface(window)
         settings(window)
         clear_and_refresh(window)
+        key("ctrl+q")
+        check("the status that Quit ends with", program.process.wait(PATIENCE), 0)
     print("ok: ended")
 
 
