@@ -33,6 +33,12 @@ public:
 
     /// In the settings program of the running desktop.
     [[nodiscard]] virtual Failure openSettings(SettingsPage page) = 0;
+
+    /// In a program that helps to find out what is wrong with a network.
+    [[nodiscard]] virtual Failure openDiagnostics() = 0;
+
+    /// Why openDiagnostics() would start nothing now: there is no such program.
+    [[nodiscard]] virtual Failure diagnosticsObstacle() const = 0;
 };
 
 } // namespace aerolith

@@ -49,10 +49,20 @@ public:
         return refusal;
     }
 
+    [[nodiscard]] Failure openDiagnostics() override
+    {
+        ++timesDiagnosed;
+        return refusal;
+    }
+
+    [[nodiscard]] Failure diagnosticsObstacle() const override { return noDiagnostics; }
+
     QList<QUrl> urls;
     QStringList folders;
     QList<SettingsPage> pages;
+    int timesDiagnosed = 0;
     Failure refusal;
+    Failure noDiagnostics;
 };
 
 class FakeHostAddresses : public HostAddresses

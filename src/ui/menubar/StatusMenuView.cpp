@@ -139,8 +139,12 @@ QWidget* StatusMenuView::makeToolsMenu()
     tools->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(tools);
     menu->setObjectName(u"toolsMenu"_s);
+    menu->setToolTipsVisible(true);
     menu->addAction(u"Wi-Fi Settings..."_s, this,
                     [this] { report(m_surroundings.workspace.openSettings(SettingsPage::wifi)); });
+    m_diagnostics = menu->addAction(u"Wireless Diagnostics..."_s, this,
+                                    [this] { report(m_surroundings.workspace.openDiagnostics()); });
+    connect(menu, &QMenu::aboutToShow, this, &StatusMenuView::checkDiagnostics);
     tools->setMenu(menu);
     return tools;
 }
@@ -212,6 +216,14 @@ void StatusMenuView::join(const WiFiNetwork& network)
     if (found) {
         m_connections.connectTo(*found);
     }
+}
+
+/// What is missing may have been installed since.
+void StatusMenuView::checkDiagnostics()
+{
+    const Failure obstacle = m_surroundings.workspace.diagnosticsObstacle();
+    m_diagnostics->setEnabled(!obstacle);
+    m_diagnostics->setToolTip(obstacle ? obstacle->description : QString());
 }
 
 void StatusMenuView::report(const Failure& failure)

@@ -6,6 +6,8 @@
 #include "ui/menubar/MenuNetworkList.h"
 #include "ui/menubar/StatusMenuController.h"
 
+class QAction;
+
 namespace aerolith {
 
 /// What is in the popover: the radio's switch, the list of networks to join, and a bar with ways into the
@@ -33,6 +35,7 @@ private:
     void followSwitch();
     void toggleWiFi(bool enabled);
     void join(const WiFiNetwork& network);
+    void checkDiagnostics();
     void report(const Failure& failure);
 
     WiFiScanner& m_scanner;
@@ -45,6 +48,7 @@ private:
     bool m_isJoining = false;
     Spinner* m_spinner;
     Switch* m_power;
+    QAction* m_diagnostics = nullptr;
     MenuNetworkList* m_list;
     OncePerTurn m_publish;
 };

@@ -350,6 +350,21 @@ TEST_F(StatusMenuTest, LeadsToTheProgramAndTheDesktopsTools)
     desktop.workspace.refusal = Error{u"not installed"_s};
     entries.first()->trigger();
     EXPECT_EQ(engine.log.take(), QStringList{u"not installed"_s});
+
+    ASSERT_EQ(entries.size(), 2);
+    QAction& diagnostics = *entries.last();
+    EXPECT_EQ(diagnostics.text(), u"Wireless Diagnostics..."_s);
+    desktop.workspace.noDiagnostics = Error{u"no tool"_s};
+    auto& tools = child<QMenu>(u"toolsMenu"_s);
+    Q_EMIT tools.aboutToShow();
+    EXPECT_FALSE(diagnostics.isEnabled());
+    EXPECT_TRUE(tools.toolTipsVisible());
+    EXPECT_EQ(diagnostics.toolTip(), u"no tool"_s);
+    desktop.workspace.noDiagnostics.reset();
+    Q_EMIT tools.aboutToShow();
+    diagnostics.trigger();
+    EXPECT_EQ(desktop.workspace.timesDiagnosed, 1);
+    EXPECT_EQ(engine.log.take(), QStringList{u"not installed"_s});
 }
 
 } // namespace aerolith

@@ -1,5 +1,6 @@
 #include "platform/linux/xdg/XdgWorkspace.h"
 
+#include "platform/linux/xdg/DiagnosticsCommands.h"
 #include "platform/linux/xdg/SettingsCommands.h"
 
 #include <QFileInfo>
@@ -30,19 +31,36 @@ QList<QStringList> openers(const QString& target)
     return {{u"xdg-open"_s, target}, {u"gio"_s, u"open"_s, target}};
 }
 
-/// Starts the first command whose program is there. `what` completes "Cannot open ...".
-Failure startFirst(const QString& what, const QList<QStringList>& commands)
+/// The first command whose program is there, as its path. `what` completes "Cannot open ...".
+Result<QStringList> firstInstalled(const QString& what, const QList<QStringList>& commands)
 {
     QStringList missing;
     for (const QStringList& command : commands) {
         const QString program = QStandardPaths::findExecutable(command.first());
         if (!program.isEmpty()) {
-            return startDetached(program, command.sliced(1));
+            return QStringList(program) + command.sliced(1);
         }
         missing.append(command.first());
     }
     missing.removeDuplicates();
     return Error{u"Cannot open %1: not installed: %2"_s.arg(what, missing.join(u", "_s))};
+}
+
+Failure startFirst(const QString& what, const QList<QStringList>& commands)
+{
+    const auto command = firstInstalled(what, commands);
+    return command.ok() ? startDetached(command.value().first(), command.value().sliced(1)) : command.error();
+}
+
+QString currentDesktop()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+}
+
+const QString& diagnostics()
+{
+    static const QString what = u"a tool for network diagnostics"_s;
+    return what;
 }
 
 } // namespace
@@ -69,7 +87,18 @@ Failure XdgWorkspace::openFolder(const QString& path)
 Failure XdgWorkspace::openSettings(SettingsPage page)
 {
     const QString what = page == SettingsPage::wifi ? u"the Wi-Fi settings"_s : u"the network settings"_s;
-    return startFirst(what, settingsCommands(page, qEnvironmentVariable("XDG_CURRENT_DESKTOP")));
+    return startFirst(what, settingsCommands(page, currentDesktop()));
+}
+
+Failure XdgWorkspace::openDiagnostics()
+{
+    return startFirst(diagnostics(), diagnosticsCommands(currentDesktop()));
+}
+
+Failure XdgWorkspace::diagnosticsObstacle() const
+{
+    const auto command = firstInstalled(diagnostics(), diagnosticsCommands(currentDesktop()));
+    return command.ok() ? Failure() : command.error();
 }
 
 } // namespace aerolith

@@ -12,6 +12,8 @@ public:
     [[nodiscard]] Failure openUrl(const QUrl& url) override;
     [[nodiscard]] Failure openFolder(const QString& path) override;
     [[nodiscard]] Failure openSettings(SettingsPage page) override;
+    [[nodiscard]] Failure openDiagnostics() override;
+    [[nodiscard]] Failure diagnosticsObstacle() const override;
 };
 
 } // namespace aerolith

@@ -71,6 +71,14 @@ TEST_F(XdgWorkspaceTest, StartsWhatIsThereAndDoesNotWaitForIt)
     EXPECT_FALSE(workspace.openSettings(SettingsPage::wifi));
     EXPECT_EQ(call(), u"gnome-control-center\nwifi"_s);
 
+    install(u"wireshark"_s);
+    EXPECT_FALSE(workspace.diagnosticsObstacle());
+    EXPECT_FALSE(workspace.openDiagnostics());
+    EXPECT_EQ(call(), u"wireshark"_s);
+    install(u"gnome-nettool"_s);
+    EXPECT_FALSE(workspace.openDiagnostics());
+    EXPECT_EQ(call(), u"gnome-nettool"_s);
+
     install(u"xdg-open"_s);
     EXPECT_FALSE(workspace.openUrl(QUrl(u"mailto:help@example.org?subject=A b&body=$(date)"_s)));
     EXPECT_EQ(call(), u"xdg-open\nmailto:help@example.org?subject=A%20b&body=$(date)"_s);
@@ -86,6 +94,14 @@ TEST_F(XdgWorkspaceTest, SaysWhyNothingOpens)
     EXPECT_EQ(
         workspace.openSettings(SettingsPage::network)->description,
         u"Cannot open the network settings: not installed: gnome-control-center, nm-connection-editor"_s);
+    const auto noTool =
+        u"Cannot open a tool for network diagnostics: not installed: gnome-nettool, wireshark"_s;
+    EXPECT_EQ(workspace.diagnosticsObstacle()->description, noTool);
+    EXPECT_EQ(workspace.openDiagnostics()->description, noTool);
+    qputenv("XDG_CURRENT_DESKTOP", "KDE");
+    EXPECT_EQ(workspace.diagnosticsObstacle()->description, noTool + u", kinfocenter"_s);
+    install(u"kinfocenter"_s);
+    EXPECT_FALSE(workspace.diagnosticsObstacle());
     EXPECT_TRUE(workspace.openUrl(QUrl(u"https://example.org"_s)));
     install(u"xdg-open"_s);
     for (const QString& url : {u"file:///etc/passwd"_s, u"--help"_s, u"javascript:alert(1)"_s, QString()}) {
