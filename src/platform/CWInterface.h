@@ -46,7 +46,7 @@ public:
     [[nodiscard]] virtual bool powerOn() const = 0;
 
     /// Switches the radio; the error says why it stayed as it was. Blocks until the system has answered, up
-    /// to seconds.
+    /// to seconds; on the main thread as associateToNetwork() does.
     [[nodiscard]] virtual Failure setPower(bool on) = 0;
 
     /// Scans and returns every access point heard during this scan, in no particular order; with an SSID (0

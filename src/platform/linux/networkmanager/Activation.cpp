@@ -2,6 +2,7 @@
 
 #include "platform/linux/networkmanager/InteractiveCall.h"
 
+#include <QCoreApplication>
 #include <QDBusObjectPath>
 #include <QDBusPendingReply>
 #include <QTimer>
@@ -20,6 +21,8 @@ namespace {
 // For the user to prove who they are, where the system asks.
 constexpr int answerTimeoutMilliseconds = 120'000;
 constexpr auto checkInterval = 100ms;
+/// For an answer that is only needed to take the request back.
+constexpr auto lastAnswerLimit = 2s;
 
 constexpr auto managerInterface = &OrgFreedesktopNetworkManagerInterface::staticInterfaceName;
 
@@ -86,12 +89,26 @@ ActivationEnd Activation::follow(const QDBusMessage& request, const std::atomic<
     check.start(checkInterval);
     // Also returns when the application quits.
     m_loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (m_end.outcome == ActivationOutcome::stopped) {
+        awaitAnswer(answer);
+    }
     const auto goesOn =
         m_end.outcome == ActivationOutcome::outOfTime || m_end.outcome == ActivationOutcome::stopped;
     if (goesOn && !m_end.activePath.isEmpty()) {
         m_manager.deactivate(m_end.activePath);
     }
     return m_end;
+}
+
+/// What NetworkManager has been asked for can be ended only by the answer's name for it. At the application's
+/// end loops no longer run, but events are still handled; the check's timer sees to it that some come.
+void Activation::awaitAnswer(const QDBusPendingCallWatcher& answer)
+{
+    const QDeadlineTimer deadline(lastAnswerLimit);
+    while (!answer.isFinished() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    }
+    m_end.outcome = ActivationOutcome::stopped;
 }
 
 void Activation::take(const QDBusPendingCall& answer)

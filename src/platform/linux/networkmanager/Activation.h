@@ -66,7 +66,8 @@ public:
     ///
     /// Blocks until the outcome is there, the time limit after NetworkManager has accepted the request at the
     /// latest, or until `stopped` is set or the application quits; what NetworkManager is still at then is
-    /// ended. Meanwhile the thread handles its events, all but the user's input. To be called once.
+    /// ended, for which its answer is waited for two seconds more. Meanwhile the thread handles its events,
+    /// all but the user's input. To be called once.
     [[nodiscard]] ActivationEnd activate(const QString& profilePath, const QString& accessPointPath,
                                          const std::atomic<bool>& stopped);
     [[nodiscard]] ActivationEnd activateNew(const ConnectionSettings& settings,
@@ -78,6 +79,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] ActivationEnd follow(const QDBusMessage& request, const std::atomic<bool>& stopped);
+    void awaitAnswer(const QDBusPendingCallWatcher& answer);
     void take(const QDBusPendingCall& answer);
     void checkEnd();
     void finish(ActivationOutcome outcome);

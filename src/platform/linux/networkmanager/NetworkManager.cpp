@@ -6,7 +6,8 @@
 #include <QDBusConnectionInterface>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
-#include <QThread>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <org.freedesktop.NetworkManager.AccessPoint.h>
 #include <org.freedesktop.NetworkManager.Device.Wireless.h>
@@ -16,6 +17,7 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -24,8 +26,8 @@ using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
 using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
 
-constexpr int switchTimeoutMilliseconds = 10'000;
-constexpr unsigned long switchPollMilliseconds = 50;
+constexpr auto switchTimeLimit = 10s;
+constexpr auto switchPollInterval = 50ms;
 
 } // namespace
 
@@ -62,21 +64,33 @@ std::optional<RemoteError> NetworkManager::setWirelessEnabled(bool enabled) cons
 {
     Call<ManagerProxy> call(m_bus, objectPath);
     call.proxy().setWirelessEnabled(enabled);
-    if (auto failure = call.failure()) {
-        return failure;
-    }
+    const auto failure = call.failure();
     // The answer to a property's change does not wait for the permission check behind it.
-    for (QDeadlineTimer deadline(switchTimeoutMilliseconds); !deadline.hasExpired();
-         QThread::msleep(switchPollMilliseconds)) {
+    return failure ? failure : awaitSwitch(enabled);
+}
+
+std::optional<RemoteError> NetworkManager::awaitSwitch(bool enabled) const
+{
+    std::optional<RemoteError> end =
+        RemoteError{RemoteFailure::noAnswer, u"NetworkManager did not switch the Wi-Fi radio"_s};
+    const QDeadlineTimer deadline(switchTimeLimit);
+    QEventLoop loop;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
         const auto now = read(m_bus, objectPath, &ManagerProxy::wirelessEnabled);
         if (!now.ok()) {
-            return RemoteError{RemoteFailure::other, now.error().description};
+            end = RemoteError{RemoteFailure::other, now.error().description};
+        } else if (now.value() == enabled) {
+            end.reset();
+        } else if (!deadline.hasExpired()) {
+            return;
         }
-        if (now.value() == enabled) {
-            return {};
-        }
-    }
-    return RemoteError{RemoteFailure::noAnswer, u"NetworkManager did not switch the Wi-Fi radio"_s};
+        loop.quit();
+    });
+    poll.start(switchPollInterval);
+    // Also returns when the application quits.
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return end;
 }
 
 Result<std::optional<ManagedDevice>> NetworkManager::device(const QString& interfaceName) const

@@ -49,7 +49,7 @@ struct ManagedDevice
 };
 
 /// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most 25
-/// seconds. To be made and used on the same thread; needs no event loop.
+/// seconds. To be made and used on the same thread; but for setWirelessEnabled() it needs no event loop.
 class NetworkManager
 {
 public:
@@ -64,8 +64,9 @@ public:
 
     [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
 
-    /// Switches the radio of every Wi-Fi device and waits, at most ten more seconds, until it reports the
-    /// change.
+    /// Switches the radio of every Wi-Fi device and waits until it reports the change, at most ten more
+    /// seconds or until the application quits. Meanwhile the thread handles its events, all but the user's
+    /// input.
     [[nodiscard]] std::optional<RemoteError> setWirelessEnabled(bool enabled) const;
 
     /// Absent when NetworkManager has no device of that interface name.
@@ -96,6 +97,8 @@ public:
     [[nodiscard]] const BusConnection& bus() const { return m_bus; }
 
 private:
+    [[nodiscard]] std::optional<RemoteError> awaitSwitch(bool enabled) const;
+
     BusConnection m_bus;
 };
 

@@ -101,6 +101,18 @@ TEST_F(ActivationTest, whatHasNotSucceededIsEnded)
     QCoreApplication::exec();
     EXPECT_EQ(outcome, stopped) << "the application quits";
     EXPECT_EQ(ended(), 3);
+
+    m_fake->on(u"AddAndActivateConnection2"_s, [](const QDBusMessage& call) {
+        std::this_thread::sleep_for(400ms);
+        return call.createReply({QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::newProfilePath)),
+                                 QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::activePath))});
+    });
+    outcome = failed;
+    QTimer::singleShot(0ms, [&] { outcome = activateNew().outcome; });
+    QTimer::singleShot(200ms, [] { QCoreApplication::quit(); });
+    QCoreApplication::exec();
+    EXPECT_EQ(outcome, stopped);
+    EXPECT_EQ(ended(), 4) << "before it is answered, too";
 }
 
 TEST_F(ActivationTest, tellsRefusedFromVanished)

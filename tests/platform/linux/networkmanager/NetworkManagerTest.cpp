@@ -8,6 +8,7 @@
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -99,7 +100,10 @@ TEST_F(NetworkManagerTest, waitsUntilTheRadioHasSwitched)
     m_fake.on(u"Get "_s + property, [&reads](const QDBusMessage& call) {
         return call.createReply(QVariant::fromValue(QDBusVariant(++reads < 3)));
     });
+    bool repainted = false;
+    QTimer::singleShot(0, [&repainted] { repainted = true; });
     EXPECT_FALSE(m_manager.setWirelessEnabled(false));
+    EXPECT_TRUE(repainted) << "the thread's events are handled meanwhile";
     EXPECT_EQ(reads, 3);
     const auto set = m_fake.calls(u"Set "_s + property);
     ASSERT_EQ(set.size(), 1);
