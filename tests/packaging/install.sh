@@ -16,7 +16,7 @@ if [ "${2:-}" = in-session ]; then
 
     dbus-update-activation-environment DISPLAY XAUTHORITY
     gdbus call --session --timeout 60 --dest org.aerolith.Aerolith --object-path /org/aerolith/Aerolith \
-        --method org.freedesktop.Application.Activate '{}'
+        --method org.freedesktop.Application.Activate '@a{sv} {}'
     pid=$(pgrep --full "^$1/usr/bin/aerolith\$")
     window_of_process "$pid"
     kill "$pid"
