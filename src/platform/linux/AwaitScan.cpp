@@ -46,7 +46,8 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
 {
     // A scan that is under way began after the one before it had ended.
     const auto runningSince = std::max(begun - longestScan, service.lastScan().value_or(BootTime::min()));
-    auto refusal = service.request(ssid);
+    const bool isListed = ssid && heard(BootTime::min());
+    auto refusal = service.request(isListed ? std::nullopt : ssid);
     const auto requested = Deadline::clock::now();
     auto deadline = requested + startLimit;
     bool startSeen = false;

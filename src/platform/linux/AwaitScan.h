@@ -12,7 +12,7 @@
 
 namespace aerolith {
 
-/// Whether an access point of the name that is scanned for has been heard since.
+/// Whether an access point of the name that is scanned for has been heard since, as far as is remembered.
 using Heard = std::function<bool(nl80211::BootTime since)>;
 
 /// Asks for a scan and waits for its end: 15 seconds for its start, as the service may put it off, and 30 in
@@ -20,10 +20,10 @@ using Heard = std::function<bool(nl80211::BootTime since)>;
 /// access point must have been heard to be a find of the scan that answers.
 ///
 /// Somebody else's scan that is under way answers a full scan too; a scan for a name only if it has found
-/// the name. The name is asked for again until it has been heard or two scans have asked in vain. A scan that
-/// was broken off answers nothing. Where no scan comes in time, the newest one that the service knows of has
-/// to do, unless it is older than those 15 seconds; that, like an obstacle that turns up meanwhile, is an
-/// error.
+/// the name. A name that has been heard lately is looked for by a full scan first; then it is asked for until
+/// it has been heard or two scans have asked in vain. A scan that was broken off answers nothing. Where no
+/// scan comes in time, the newest one that the service knows of has to do, unless it is older than those 15
+/// seconds; that, like an obstacle that turns up meanwhile, is an error.
 [[nodiscard]] Result<nl80211::BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events,
                                                   nl80211::BootTime begun,
                                                   const std::optional<QByteArray>& ssid, const Heard& heard);

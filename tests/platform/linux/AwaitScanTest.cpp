@@ -101,9 +101,8 @@ protected:
 TEST_F(AwaitScanTest, aScanBegunSinceTheRequestAnswers)
 {
     EXPECT_EQ(await({started, finished}), begun);
-    m_heard = begun + 1s;
-    EXPECT_EQ(await({started, finished}, "x"_ba), begun);
-    EXPECT_THAT(m_service.requests, ElementsAre(std::nullopt, "x"_ba));
+    EXPECT_EQ(await({started, finished, started, finished}, "x"_ba), begun);
+    EXPECT_THAT(m_service.requests, ElementsAre(std::nullopt, "x"_ba, "x"_ba));
 }
 
 TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
@@ -123,6 +122,15 @@ TEST_F(AwaitScanTest, aScanForANameEndsWhereTheNameIsHeard)
     EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun - 11s) << "found before that one";
     m_heard = begun + 1s;
     EXPECT_EQ(await({started, finishedFor({""})}, "x"_ba), begun) << "it need not have asked for it";
+}
+
+TEST_F(AwaitScanTest, aNameHeardLatelyIsAskedForOnlyWhereAFullScanMissesIt)
+{
+    m_heard = begun - 20s;
+    EXPECT_EQ(
+        await({started, finishedFor({""}), started, finishedFor({"x"}), started, finishedFor({"x"})}, "x"_ba),
+        begun);
+    EXPECT_THAT(m_service.requests, ElementsAre(std::nullopt, "x"_ba, "x"_ba));
 }
 
 TEST_F(AwaitScanTest, aScanForANameAsksTwiceBeforeItGivesUp)

@@ -133,15 +133,15 @@ TEST_F(LinuxWiFiTest, aScanAnswersWithWhatItHeardAlone)
     m_kernel->hear(u"02:00:00:00:00:09"_s, "gone", 5s);
     EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:01"_s, u"02:00:00:00:00:02"_s));
     EXPECT_THAT(scan("cafe"_ba), ElementsAre(u"02:00:00:00:00:02"_s));
-    EXPECT_THAT(scan("cafe"_ba), ElementsAre(u"02:00:00:00:00:02"_s));
-    const auto requests = m_fake->calls(u"RequestScan"_s);
-    ASSERT_EQ(requests.size(), 3);
-    const auto namesOf = [](const QDBusMessage& request) {
-        return qdbus_cast<QList<QByteArray>>(
-            qdbus_cast<QVariantMap>(request.arguments().at(0)).value(u"ssids"_s));
-    };
-    EXPECT_EQ(namesOf(requests[1]), QList{"cafe"_ba});
-    EXPECT_TRUE(namesOf(requests[2]).isEmpty()) << "NetworkManager may still keep the name";
+    EXPECT_THAT(scan("hidden"_ba), IsEmpty());
+    QList<QList<QByteArray>> names;
+    for (const QDBusMessage& request : m_fake->calls(u"RequestScan"_s)) {
+        names.append(qdbus_cast<QList<QByteArray>>(
+            qdbus_cast<QVariantMap>(request.arguments().at(0)).value(u"ssids"_s)));
+    }
+    // NetworkManager may still keep a name that it was asked for, so that one request has to do for two
+    // scans.
+    EXPECT_THAT(names, ElementsAre(IsEmpty(), IsEmpty(), ElementsAre("hidden"_ba), IsEmpty()));
 }
 
 TEST_F(LinuxWiFiTest, aScanThatSomebodyElseHasRunningAnswersToo)
