@@ -66,12 +66,25 @@ as_user() {
 
 # observe NAME SECONDS ARGUMENT...: runs the program as the unprivileged user, in a folder of its own that ends up
 # as /out/NAME, beside its standard output, standard error, exit status (124: not done within SECONDS) and times.
-observe() {
+observe() { observe_command "$1" "$2" /run/program "${@:3}"; }
+
+# drive NAME SECONDS SCRIPT ARGUMENT...: the same with one of the scripts that drive a window through its accessibility
+# tree, in a desktop session of its own; the program comes before the arguments.
+drive() {
+    if [ ! -e /run/desktop ]; then
+        cp -r "$BED/../desktop" /run/desktop
+        chmod -R a+rX /run/desktop # like the program's folder
+        mkdir -p -m 1777 /tmp/.X11-unix
+    fi
+    observe_command "$1" "$2" env DESKTOP_PATIENCE=240 /run/desktop/run.sh "/run/desktop/$3" /run/program "${@:4}"
+}
+
+observe_command() {
     local name=$1 seconds=$2 folder=/run/observed/$1
     shift 2
     install -d -o $USER_ID -g $USER_ID "$folder"
     date +%s.%N >"$folder/begun"
-    (cd "$folder" && as_user timeout -k 5 "$seconds" /run/program "$@") >"$folder/stdout" 2>"$folder/stderr"
+    (cd "$folder" && as_user timeout -k 5 "$seconds" "$@") >"$folder/stdout" 2>"$folder/stderr"
     echo $? >"$folder/status"
     date +%s.%N >"$folder/ended"
     iw dev wlan0 scan dump >"$folder/iw.txt" 2>/dev/null
@@ -147,8 +160,12 @@ wifi.scan-rand-mac-address=no
 CONFIGURATION
     wpa_supplicant -u -B -s -f /run/wpa_supplicant.log
     NetworkManager --debug --config /run/NetworkManager.conf >/run/NetworkManager.log 2>&1 &
+    NETWORK_MANAGER=$!
     wait_for 90 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
 }
+
+# network_manager_lives: gives up where it does not; nothing that we ask of it may end it.
+network_manager_lives() { kill -0 "$NETWORK_MANAGER" 2>/dev/null || give_up "NetworkManager has died"; }
 
 permission_is() { as_user nmcli -t general permissions | grep -q "$1:$2"; }
 

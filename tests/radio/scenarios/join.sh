@@ -6,6 +6,7 @@ PROFILES=(/run/NetworkManager/system-connections /etc/NetworkManager/system-conn
 
 # report NAME: what the machine is joined to, and every stored profile of a Wi-Fi network, in /out/NAME.
 report() {
+    network_manager_lives
     iw dev wlan0 link >"/out/$1/link.txt"
     find "${PROFILES[@]}" -name '*.nmconnection' -exec cat {} + >"/out/$1/profiles.txt"
 }
