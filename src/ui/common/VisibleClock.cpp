@@ -5,16 +5,19 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace aerolith {
 
+using namespace std::chrono_literals;
+
 VisibleClock::VisibleClock(QWidget& widget, std::function<void()> frame, std::chrono::milliseconds interval)
-    : m_widget(widget), m_isShown(widget.isVisible())
+    : m_widget(widget), m_isShown(widget.isVisible()), m_frame(std::move(frame)), m_interval(interval)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    m_timer.setInterval(interval);
-    m_timer.callOnTimeout(this, std::move(frame));
+    m_timer.setSingleShot(true);
+    m_timer.callOnTimeout(this, [this] { showFrame(); });
     widget.installEventFilter(this);
     if (m_isShown) {
         widgetShown(true);
@@ -51,7 +54,7 @@ void VisibleClock::widgetShown(bool anew)
 {
     m_isShown = true;
     if (anew) {
-        m_timer.stop();
+        stop();
         m_elapsed = Seconds(0);
     }
     QWindow* window = m_widget.window()->windowHandle();
@@ -76,11 +79,32 @@ void VisibleClock::update()
     }
     if (runs) {
         m_running.start();
-        m_timer.start();
+        m_timer.start(m_interval);
     } else {
         m_elapsed = time();
-        m_timer.stop();
+        stop();
     }
+}
+
+void VisibleClock::stop()
+{
+    m_running.invalidate();
+    m_frameBegan.invalidate();
+    m_timer.stop();
+}
+
+void VisibleClock::showFrame()
+{
+    if (!m_frameBegan.isValid()) {
+        m_frameBegan.start();
+        m_frame();
+        // Once nothing is left to do, what the frame has changed is on the screen.
+        m_timer.start(0ms);
+        return;
+    }
+    const std::chrono::milliseconds taken(m_frameBegan.elapsed());
+    m_frameBegan.invalidate();
+    m_timer.start(std::max(m_interval - taken, 2 * taken));
 }
 
 bool VisibleClock::canBeSeen() const

@@ -16,7 +16,8 @@ namespace aerolith {
 
 /// The clock of a widget's endless animation. It starts from 0 when the widget is shown, and stands still,
 /// with no timer running, while nobody can see the widget: minimised, hidden, or covered as far as the window
-/// system tells. Where the desktop asks for no animations it stays at 0. GUI thread.
+/// system tells. Where the desktop asks for no animations it stays at 0. Where frames take long there are
+/// fewer of them: two thirds of the thread's time are left to everything else. GUI thread.
 class VisibleClock : public QObject
 {
 public:
@@ -29,20 +30,27 @@ public:
     /// How long the widget has been seen since it was shown.
     [[nodiscard]] Seconds time() const;
 
-    [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
+    [[nodiscard]] bool isRunning() const { return m_running.isValid(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void widgetShown(bool anew);
     void update();
+    void stop();
+    void showFrame();
     [[nodiscard]] bool canBeSeen() const;
 
     QWidget& m_widget;
     /// The window that tells whether it is exposed.
     QPointer<QWindow> m_window;
     bool m_isShown;
+    std::function<void()> m_frame;
+    std::chrono::milliseconds m_interval;
+    /// To the next frame, or to the end of this one.
     QTimer m_timer;
+    QElapsedTimer m_frameBegan;
+    /// Valid while the time moves.
     QElapsedTimer m_running;
     /// Of the earlier runs since the widget was shown.
     Seconds m_elapsed{0};
