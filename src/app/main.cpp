@@ -4,6 +4,7 @@
 #include "app/TerminationSignals.h"
 #include "platform/qt/StandardLog.h"
 #include "plug/PluggedPlatform.h"
+#include "ui/menubar/AccessiblePopover.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -61,6 +62,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
         surroundings.log.line(unclaimed->description);
     }
     const TerminationSignals terminationSignals([] { QApplication::exit(0); });
+    listPopoversAsWindows();
     AerolithApp app(surroundings, platform.value()->desktopServices(), instance);
     app.showMainWindow();
     const int status = QApplication::exec();
