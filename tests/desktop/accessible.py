@@ -34,6 +34,12 @@ def wait_for(what, condition, seconds=PATIENCE):
     raise Failure(f"waited in vain for {what}; last: {last!r}")
 
 
+def check(what, actual, expected):
+    if actual != expected:
+        raise Failure(f"{what}: {actual!r} instead of {expected!r}")
+    print(f"ok: {what}: {actual!r}")
+
+
 class Element:
     """One object of the tree. Reads are live: nothing is remembered between them."""
 
@@ -147,7 +153,7 @@ def key(*names):
 
 
 class Focus:
-    """What has been told of the keyboard focus. An open menu can be met in this way alone: Qt keeps it out of the
+    """What has been told of the keyboard focus. An open menu can be met in this way alone: it is kept out of the
     tree, as what assistive technology reads out of it are the entries that the focus comes to."""
 
     def __init__(self):

@@ -7,13 +7,14 @@ the interface's properties and changes the settings. It knows nothing of the air
 place is compared with what it says in another and with the files. RESULTS/details.json keeps what the pane said."""
 
 import csv
+import functools
 import json
 import os
 import re
 import shutil
 import sys
 
-from accessible import PATIENCE, Failure, Focus, Program, click, key, wait_for
+from accessible import PATIENCE, Failure, Focus, Program, check, click, key, wait_for
 
 PANE_ROWS = {
     "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
@@ -21,50 +22,50 @@ PANE_ROWS = {
 }
 
 
-def check(what, actual, expected):
-    if actual != expected:
-        raise Failure(f"{what}: {actual!r} instead of {expected!r}")
-    print(f"ok: {what}: {actual!r}")
-
-
 class MainWindow:
+    """What stays for the window's life is looked for once: a walk through the tree takes seconds on a slow machine."""
+
     def __init__(self, program):
         self.application = program.application()
         self.frame = self.application.find("frame")
 
-    @property
+    @functools.cached_property
     def list(self):
         return self.frame.find("list", "Networks")
+
+    @functools.cached_property
+    def header(self):
+        return next(e for e in self.frame.all("label") if re.fullmatch(r"\d+ Networks", e.name))
+
+    @functools.cached_property
+    def pane(self):
+        return self.frame.find(name="Network details")
 
     def rows(self):
         """The SSIDs as the rows name them; isolates keep a name's direction to itself."""
         return [row.name.split("\u2069")[0].strip("\u2068") for row in self.list.children]
 
     def count(self):
-        header = next(e for e in self.frame.all("label") if re.fullmatch(r"\d+ Networks", e.name))
-        return int(header.name.split()[0])
+        return int(self.header.name.split()[0])
 
     def row(self, ssid):
         return self.list.children[self.rows().index(ssid)]
 
     def select(self, ssid):
         self.row(ssid).act("Toggle")
-        self.value("SSID", expected=ssid)
+        self.shows(ssid)
 
-    def value(self, label, expected=None):
-        """The pane's value with this label; waits for the expected one."""
-        if expected is not None:
-            wait_for(f"{label} {expected!r}", lambda: self.frame.find("text", label).text == expected)
-        return self.frame.find("text", label).text
+    def shows(self, ssid):
+        """Waits until the window is about this access point."""
+        wait_for(f"the window about {ssid!r}", lambda: self.frame.name == ssid)
 
     def details(self):
-        pane = self.frame.find(name="Network details")
-        return {row.name: row.text for row in pane.all("text", showing=False) if row.name}
+        return {row.name: row.text for row in self.pane.all("text", showing=False) if row.name}
 
     def menu_on(self, ssid, entry):
         """The row's context menu, by the keyboard."""
         click(self.row(ssid))
-        self.value("SSID", expected=ssid)
+        self.shows(ssid)
         focus = Focus()
         key("Menu", "Down")
         focus.on("menu item", entry)
@@ -96,7 +97,7 @@ def read_details(window, ssid):
     check("SNR", details["SNR"], f"{rssi - noise} dB")
     if f"channel {details['Channel']}" not in window.row(ssid).name:
         raise Failure(f"the row says {window.row(ssid).name!r}, the pane channel {details['Channel']}")
-    chart = next(e for e in window.frame.walk() if e.name.startswith("Signal History") and e.description)
+    chart = next(e for e in window.pane.walk() if e.name.startswith("Signal History") and e.description)
     for part in (ssid, details["Current RSSI"], " sample"):
         if part not in chart.description:
             raise Failure(f"the chart's description lacks {part!r}: {chart.description!r}")
@@ -114,7 +115,7 @@ def hide_and_show(window, ssid):
     window.frame.find("label", "Select a network to view details")
     window.frame.find("check box", "Hiding Hidden").press()
     wait_for("the row again", lambda: ssid in window.rows())
-    window.value("SSID", expected=ssid)
+    window.shows(ssid)
     window.menu_on(ssid, "Show Network")
 
 
@@ -124,12 +125,16 @@ def sort(window):
     joined = by_signal[:1] if window.list.children[0].name.endswith(", joined") else []
     by_name = joined + sorted(by_signal[len(joined):], key=str.casefold)
     menu = window.frame.find("combo box")
-    click(menu)
-    key("Down", "Return")
-    wait_for(f"the list by name, {by_name}", lambda: menu.name == "Network Name" and window.rows() == by_name)
-    click(menu)
-    key("Up", "Return")
-    wait_for("the list by signal", lambda: window.rows() == by_signal)
+
+    def choose(towards, order):
+        menu.act("ShowMenu")
+        wait_for("the menu", lambda: menu.children[0].showing)
+        key(towards, "Return")
+        wait_for(f"the order {order}", lambda: window.rows() == order)
+
+    choose("Down", by_name)
+    check("the order's name", menu.name, "Network Name")
+    choose("Up", by_signal)
     print(f"ok: by signal {by_signal}, by name {by_name}")
 
 
@@ -192,9 +197,10 @@ def clear_and_refresh(window):
 
 
 def main(path, ssid, results, *arguments):
+    results = os.path.abspath(results)
     # A file from the last run would have the dialog ask whether to replace it.
     shutil.rmtree(results, ignore_errors=True)
-    os.makedirs(results)
+    os.makedirs(results, exist_ok=True)
     with Program(path, *arguments, log=f"{results}/log") as program:
         window = MainWindow(program)
         first_scan(window)

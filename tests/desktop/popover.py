@@ -1,0 +1,93 @@
+"""The program's icon in an X11 tray, and the popover that it opens."""
+
+import contextlib
+import subprocess
+
+from gi.repository import Atspi
+
+from accessible import PATIENCE, Failure, wait_for
+
+ICON = (1280 - 12, 12)
+CONNECT = "Connect to \u2068{}\u2069, "
+JOINED = "\u2068{}\u2069, joined"
+
+
+@contextlib.contextmanager
+def tray():
+    """In the upper right corner, as high as an icon."""
+    command = ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24"]
+    with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as process:
+        try:
+            yield
+        finally:
+            process.terminate()
+
+
+def click_at(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+
+
+class Popover:
+    def __init__(self, application):
+        self.application = application
+
+    @property
+    def window(self):
+        return next((w for w in self.application.children if w.role == "filler" and w.showing), None)
+
+    def rows(self):
+        window = self.window
+        return window.all("list item") if window else []
+
+    def row(self, prefix):
+        return next((row for row in self.rows() if row.name.startswith(prefix)), None)
+
+    def press_icon(self):
+        """Whether the popover opens, or else a dialog stands in its way."""
+        click_at(*ICON)
+        with contextlib.suppress(Failure):
+            wait_for("a window", lambda: self.window or self.application.all("dialog"), PATIENCE / 12)
+        return self.window is not None
+
+    def open(self):
+        """Pressed again until it opens: the icon comes a moment after its tray."""
+        wait_for("the popover", lambda: self.window or self.press_icon())
+        wait_for("the popover's rows", self.rows)
+
+    def closed(self):
+        wait_for("no popover", lambda: not self.window)
+
+    def ask_to_connect(self, ssid):
+        """By the lock at the row's end, which is part of its button. Returns whether a password will be asked for."""
+        row = wait_for(f"a row for {ssid}", lambda: self.row(CONNECT.format(ssid)))
+        asks = not row.name.endswith(", Open")
+        box = row.accessible.get_extents(Atspi.CoordType.SCREEN)
+        click_at(box.x + box.width - 18, box.y + box.height // 2)
+        return asks
+
+    def answer(self, ssid, password):
+        dialog = self.application.find("dialog", f"Connect to \u2068{ssid}\u2069")
+        self.closed()
+        dialog.find(name="Network password").text = password
+        dialog.find("push button", "Connect").press()
+
+    def connect(self, ssid, password):
+        """Opens it, asks to join and waits for the outcome: what the failure's dialog says, or nothing."""
+        self.open()
+        if self.ask_to_connect(ssid):
+            self.answer(ssid, password)
+        return wait_for(f"the outcome of joining {ssid}", lambda: self.outcome(ssid))[0]
+
+    def outcome(self, ssid):
+        dialogs = self.application.all("dialog")
+        for alert in dialogs:
+            if alert.name == "Connection Failed":
+                told = alert.description
+                alert.find("push button", "OK").press()
+                self.application.gone("dialog")
+                return [told]
+        return None if dialogs else self.joined_outcome(ssid)
+
+    def joined_outcome(self, ssid):
+        """Joined where the list says so; it does at the next scan."""
+        return [None] if (self.window or self.press_icon()) and self.row(JOINED.format(ssid)) else None
