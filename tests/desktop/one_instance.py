@@ -10,18 +10,12 @@ import signal
 import subprocess
 import sys
 
-from accessible import PATIENCE, Failure, Program, click, key, wait_for
+from accessible import PATIENCE, Failure, Program, check, click, key, wait_for
 
 from gi.repository import Atspi
 
 NAME = "org.aerolith.Aerolith"
 TOLD = "aerolith: running already; its window has been brought to the front\n"
-
-
-def check(what, actual, expected):
-    if actual != expected:
-        raise Failure(f"{what}: {actual!r} instead of {expected!r}")
-    print(f"ok: {what}")
 
 
 def active_frame(application):

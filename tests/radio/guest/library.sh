@@ -64,8 +64,9 @@ as_user() {
         setpriv --reuid=$USER_ID --regid=$USER_ID --clear-groups "$@"
 }
 
-# observe NAME SECONDS ARGUMENT...: runs the program as the unprivileged user, in a folder of its own that ends up
-# as /out/NAME, beside its standard output, standard error, exit status (124: not done within SECONDS) and times.
+# observe NAME SECONDS ARGUMENT...: runs the program as the unprivileged user, in a folder of its own. What it leaves
+# there ends up in /out/NAME, with its standard output, standard error, exit status (124: not done within SECONDS) and
+# times.
 observe() { observe_command "$1" "$2" /run/program "${@:3}"; }
 
 # drive NAME SECONDS SCRIPT ARGUMENT...: the same with one of the scripts that drive a window through its accessibility
@@ -80,16 +81,17 @@ drive() {
 }
 
 observe_command() {
-    local name=$1 seconds=$2 folder=/run/observed/$1
+    local name=$1 seconds=$2 folder=/run/observed/$1 out=/out/$1
     shift 2
     install -d -o $USER_ID -g $USER_ID "$folder"
-    date +%s.%N >"$folder/begun"
-    (cd "$folder" && as_user timeout -k 5 "$seconds" "$@") >"$folder/stdout" 2>"$folder/stderr"
-    echo $? >"$folder/status"
-    date +%s.%N >"$folder/ended"
-    iw dev wlan0 scan dump >"$folder/iw.txt" 2>/dev/null
-    mkdir -p "/out/$name" && cp -r "$folder/." "/out/$name/"
-    say "$name: status $(cat "$folder/status"): $(tail -n 1 "$folder/stderr")"
+    mkdir -p "$out"
+    date +%s.%N >"$out/begun"
+    (cd "$folder" && as_user timeout -k 5 "$seconds" "$@") >"$out/stdout" 2>"$out/stderr"
+    echo $? >"$out/status"
+    date +%s.%N >"$out/ended"
+    iw dev wlan0 scan dump >"$out/iw.txt" 2>/dev/null
+    cp -r "$folder/." "$out/"
+    say "$name: status $(cat "$out/status"): $(tail -n 1 "$out/stderr")"
 }
 
 # start_radios: one simulated radio for the station (wlan0) and one for each of the plan's. The latter go into a

@@ -89,7 +89,18 @@ JOIN = Plan((
     ), role="leaving"),
 ))
 
-PLANS = {"scan": SCAN, "join": JOIN}
+WINDOW = Plan((
+    Radio("hw_mode=a;ieee80211n=1;ieee80211ac=1;ht_capab=[HT40+];vht_oper_chwidth=1;vht_oper_centr_freq_seg0_idx=42",
+          36, 80, "a n ac", (
+              AccessPoint(b"Home & <b>Garden</b>", f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}"),
+          ), rx_rssi=-70, role="chosen"),
+    Radio("hw_mode=g;ieee80211n=1", 6, 20, "b g n", (AccessPoint(b"Library"),), rx_rssi=-82),
+    Radio("hw_mode=g;ieee80211n=1", 11, 20, "b g n", (
+        AccessPoint(b"Workshop", f"wpa=2;wpa_key_mgmt=SAE;rsn_pairwise=CCMP;ieee80211w=2;{PSK}"),
+    ), rx_rssi=-55),
+))
+
+PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW}
 
 
 def main(scenario: str, folder: Path) -> None:

@@ -47,7 +47,7 @@ switch_power() {
     cat /sys/class/net/wlan0/phy80211/rfkill*/soft >"/out/power-$1/blocked"
 }
 
-was_found() { grep -q found "/run/observed/$1/stdout"; }
+was_found() { grep -q found "/out/$1/stdout"; }
 
 start_radios
 start_access_points
