@@ -3,6 +3,7 @@
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/InteractiveCall.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
+#include "platform/linux/networkmanager/PolkitAuthority.h"
 #include "platform/linux/networkmanager/RemoteError.h"
 
 #include <QDBusConnectionInterface>
@@ -38,6 +39,9 @@ ScanPermission::ScanPermission(const BusAddress& address, std::function<void()> 
         NetworkManager::serviceName, NetworkManager::objectPath, m_bus.connection());
     QObject::connect(m_manager.get(), &OrgFreedesktopNetworkManagerInterface::CheckPermissions, m_calls.get(),
                      [this] { read(); });
+    // Some versions of NetworkManager (1.42) keep polkit's changes to themselves.
+    m_polkit = std::make_unique<PolkitAuthority>(m_bus.connection());
+    QObject::connect(m_polkit.get(), &PolkitAuthority::Changed, m_calls.get(), [this] { read(); });
     QObject::connect(
         &m_serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, m_calls.get(),
         [this](const QString&, const QString&, const QString& owner) { setRunning(!owner.isEmpty()); });

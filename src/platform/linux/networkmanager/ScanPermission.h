@@ -17,6 +17,8 @@ class QDBusPendingCallWatcher;
 
 namespace aerolith {
 
+class PolkitAuthority;
+
 /// Whether NetworkManager lets this user scan for Wi-Fi networks, followed as it changes. Main thread; needs
 /// its event loop.
 class ScanPermission
@@ -72,6 +74,7 @@ private:
     std::function<void()> m_changed;
     QDBusServiceWatcher m_serviceWatcher;
     std::unique_ptr<OrgFreedesktopNetworkManagerInterface> m_manager;
+    std::unique_ptr<PolkitAuthority> m_polkit;
     bool m_running = false;
     Answer m_answer = Answer::unread;
     /// What the user's proof came to, while the answer is `authentication`.

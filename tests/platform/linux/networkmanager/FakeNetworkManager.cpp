@@ -63,6 +63,7 @@ FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
             auto connection = QDBusConnection::connectToBus(busAddress, m_connectionName);
             connection.registerVirtualObject(managerPath, this, QDBusConnection::SubPath);
             connection.registerService(managerInterface);
+            connection.registerService(u"org.freedesktop.PolicyKit1"_s);
         },
         Qt::BlockingQueuedConnection);
 }
@@ -91,7 +92,11 @@ void FakeNetworkManager::setScanPermission(const QString& permission)
         const QMutexLocker lock(&m_mutex);
         m_permissions[u"org.freedesktop.NetworkManager.wifi.scan"_s] = permission;
     }
-    emitCheckPermissions();
+    QMetaObject::invokeMethod(this, [this] {
+        QDBusConnection(m_connectionName)
+            .send(QDBusMessage::createSignal(u"/org/freedesktop/PolicyKit1/Authority"_s,
+                                             u"org.freedesktop.PolicyKit1.Authority"_s, u"Changed"_s));
+    });
 }
 
 void FakeNetworkManager::emitCheckPermissions()

@@ -37,8 +37,9 @@ public:
     /// Leaves the bus as a process does that is killed.
     void end();
 
-    /// The permission to scan; tells the bus that permissions have changed.
+    /// The permission to scan; the bus is told by polkit, in whose name the fake stands there too.
     void setScanPermission(const QString& permission);
+    /// NetworkManager's own word that permissions may have changed.
     void emitCheckPermissions();
 
     /// How activations go on once accepted: the device's states with their reasons, then that of the active
