@@ -12,12 +12,8 @@ JOINED = {
     "wpa2": "wpa2",
     "stored": "wpa2",
     "stored-changed": "wpa2",
-    "mixed": "wpa wpa2",
     "transition": "wpa2 wpa3",
-    "wpa3": "wpa3",
     "wep": "wep",
-    "owe": "owe",
-    "open": "open",
     "hidden": r"hidden \xff\xfe",
 }
 

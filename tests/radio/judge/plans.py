@@ -100,7 +100,7 @@ WINDOW = Plan((
     ), rx_rssi=-55),
 ))
 
-PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW}
+PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN}
 
 
 def main(scenario: str, folder: Path) -> None:

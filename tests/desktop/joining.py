@@ -1,0 +1,94 @@
+#!/usr/bin/python3 -u
+"""joining.py PROGRAM PASSWORD RESULTS SSID...
+
+Drives PROGRAM on live access points, as a user who begins without the permission to scan: waits for it (RESULTS/refused
+is made when the window says that it is missing), then joins each SSID from the popover, the first one with a wrong
+password before, and switches the radio. What NetworkManager says meanwhile is NetworkManager's own client's word."""
+
+import pathlib
+import subprocess
+import sys
+
+from accessible import Failure, Program, check, key, wait_for
+from popover import JOINED, Popover, tray
+
+REFUSED = "Location access is required\nto scan for networks.\n\nPlease enable it\nin System Settings."
+TRIES = 2  # an access point at times loses a handshake, which is no fault of the station
+
+
+def network_manager(*arguments):
+    return subprocess.run(["nmcli", "--terse", *arguments], check=True, capture_output=True, text=True).stdout
+
+
+def profiles():
+    """The names of the stored Wi-Fi networks."""
+    listed = network_manager("--fields", "NAME,TYPE", "connection", "show").splitlines()
+    return sorted(line.removesuffix(":802-11-wireless") for line in listed if line.endswith(":802-11-wireless"))
+
+
+def begin(application, results):
+    application.find("label", REFUSED)
+    print("ok: the window says that access is missing")
+    (results / "refused").touch()
+    wait_for("the first rows", lambda: application.all("list item"))
+    check("the words about access are gone", application.all("label", REFUSED), [])
+
+
+def refuse_wrong_password(popover, ssid, password):
+    told = popover.connect(ssid, password[::-1])
+    print(f"ok: the wrong password: {told!r}")
+    check("the failure names the password", "password" in (told or ""), True)
+    wait_for("no profile after the failure", lambda: not profiles())
+
+
+def join(application, popover, ssid, password):
+    for _ in range(TRIES):
+        told = popover.connect(ssid, password)
+        if told is None:
+            break
+        print(f"note: {ssid}: {told!r}")
+    check(f"joining {ssid}", told, None)
+    first = popover.rows()[0].name
+    check("the popover's first row", first.startswith(JOINED.format(ssid)), True)
+    main_list = application.find("frame").find("list", "Networks")
+    wait_for("the main window's first row", lambda: main_list.children[0].name.endswith(", joined"))
+    check("the network as the system names it", profiles_in_use(), [ssid])
+
+
+def profiles_in_use():
+    listed = network_manager("--fields", "NAME,TYPE", "connection", "show", "--active").splitlines()
+    return [line.removesuffix(":802-11-wireless") for line in listed if line.endswith(":802-11-wireless")]
+
+
+def switch_radio(application, popover):
+    for state, flip in (("disabled", "off"), ("enabled", "on")):
+        popover.open()
+        popover.window.find("check box", "Wi-Fi").press()
+        wait_for(f"the radio {flip}", lambda: network_manager("radio", "wifi").strip() == state)
+        key("Escape")
+        popover.closed()
+    wait_for("the rows again", lambda: application.find("frame").all("list item"))
+    print("ok: the radio goes off and on")
+
+
+def main(path, password, results, *ssids):
+    results = pathlib.Path(results)
+    with Program(path, log=results / "log") as program, tray():
+        application = program.application()
+        begin(application, results)
+        popover = Popover(application)
+        refuse_wrong_password(popover, ssids[0], password)
+        for ssid in ssids:
+            join(application, popover, ssid, password)
+        check("the stored networks", profiles(), sorted(ssids))
+        key("Escape")
+        popover.closed()
+        switch_radio(application, popover)
+    print("ok: ended")
+
+
+if __name__ == "__main__":
+    try:
+        main(*sys.argv[1:])
+    except Failure as failure:
+        sys.exit(f"failed: {failure}")
