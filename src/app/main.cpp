@@ -7,7 +7,6 @@
 #include "ui/menubar/AccessiblePopover.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -37,8 +36,6 @@ int run(int argc, char** argv, const PlatformOptions& options)
     QApplication::setApplicationName(u"Aerolith"_s);
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
     QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);
-    QApplication::setWindowIcon(
-        QIcon::fromTheme(u"org.aerolith.Aerolith"_s, QIcon(u":/aerolith/org.aerolith.Aerolith.svg"_s)));
 
     OneInstance instance;
     Failure unclaimed;
