@@ -1,6 +1,7 @@
 #include "app/AerolithApp.h"
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
+#include "app/FontConfiguration.h"
 #include "app/TerminationSignals.h"
 #include "platform/qt/StandardLog.h"
 #include "plug/PluggedPlatform.h"
@@ -31,6 +32,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
     // The program takes its own arguments only, none of Qt's.
     argc = 1;
     std::optional<DisplayCheck> displayCheck(std::in_place);
+    std::optional<FontConfiguration> fonts(std::in_place);
     const QApplication application(argc, argv);
     displayCheck.reset();
     QApplication::setApplicationName(u"Aerolith"_s);
@@ -54,6 +56,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
     if (!platform.ok()) {
         return refuse(platform.error());
     }
+    fonts.reset();
     const Surroundings surroundings = platform.value()->surroundings();
     if (unclaimed) {
         surroundings.log.line(unclaimed->description);
