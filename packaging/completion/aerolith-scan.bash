@@ -30,7 +30,7 @@ _aerolith_scan()
             [[ $cur == -* ]] || { _filedir json; return; }
             ;;
     esac
-    COMPREPLY=($(compgen -W '--simulate --cycles --interval --sort --visible-only --list --details --format
-        --help --version' -- "$cur"))
+    COMPREPLY=($(compgen -W '--simulate --cycles --interval --sort --visible-only --watch --list --details
+        --format --help --version' -- "$cur"))
 } &&
     complete -F _aerolith_scan aerolith-scan

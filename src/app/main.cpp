@@ -2,8 +2,8 @@
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
 #include "app/FontConfiguration.h"
-#include "app/TerminationSignals.h"
 #include "platform/qt/StandardLog.h"
+#include "platform/qt/TerminationSignals.h"
 #include "plug/PluggedPlatform.h"
 #include "ui/menubar/AccessiblePopover.h"
 

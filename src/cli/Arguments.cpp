@@ -23,8 +23,11 @@ public:
         }
         m_parsed.simulate = simulate.value();
         while (!m_left.isEmpty() && !m_error) {
-            takeOption(m_left.takeFirst());
+            const QString option = m_left.takeFirst();
+            takeOption(option);
+            m_taken.append(option);
         }
+        checkTogether();
         if (m_error) {
             return *m_error;
         }
@@ -40,6 +43,8 @@ private:
             m_parsed.version = true;
         } else if (option == "--visible-only"_L1) {
             m_parsed.visibleOnly = true;
+        } else if (option == "--watch"_L1) {
+            m_parsed.watch = true;
         } else if (option == "--cycles"_L1) {
             m_parsed.cycles = wholeNumber(option);
         } else if (option == "--interval"_L1) {
@@ -55,6 +60,15 @@ private:
             m_parsed.details.append({.bssid = bssid, .file = value(option, u"a file after the BSSID"_s)});
         } else {
             fail(u"Unknown argument \"%1\" (try --help)"_s.arg(option));
+        }
+    }
+
+    void checkTogether()
+    {
+        for (const QString& option : {u"--list"_s, u"--details"_s, u"--sort"_s, u"--format"_s}) {
+            if (m_parsed.watch && m_taken.contains(option)) {
+                fail(u"--watch writes JSON lines as it scans, it does not go with %1"_s.arg(option));
+            }
         }
     }
 
@@ -130,6 +144,7 @@ private:
     }
 
     QStringList m_left;
+    QStringList m_taken;
     Arguments m_parsed;
     Failure m_error;
 };
@@ -147,10 +162,11 @@ QString usage()
 Scans the Wi-Fi networks around the machine and writes what it heard.
 
   --simulate [FILE]     follow the scenario in FILE, or a built-in neighbourhood, instead of the machine's Wi-Fi
-  --cycles N            scan N times (default 1)
+  --cycles N            scan N times (default 1; with --watch, until interrupted)
   --interval SECONDS    time from one scan to the next (default: the stored scan interval)
   --sort ORDER          order the list by signal, ssid, channel or security
   --visible-only        leave hidden access points out of the list
+  --watch               after every scan, write one line of JSON for each access point to standard output
   --list FILE           write the list to FILE; the default, on standard output, where nothing else is asked for
   --details BSSID FILE  write the details of one access point to FILE; may be given several times
   --format FORMAT       csv (default) or json
@@ -158,6 +174,7 @@ Scans the Wi-Fi networks around the machine and writes what it heard.
   --version             show the version
 
 FILE may be -, standard output. Log lines go to standard error.
+An interrupt ends --watch with status 0, and so does the end of who reads it.
 Exit status: 0; 1 when the last scan failed or a file cannot be written; 2 for wrong arguments or an unreadable
 scenario; 3 when there is no Wi-Fi interface; 4 when an access point asked for is not known.
 )"_s;

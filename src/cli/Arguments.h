@@ -31,14 +31,16 @@ struct Arguments
     bool version = false;
     /// Absent: the machine's own Wi-Fi.
     std::optional<Simulation> simulate;
-    /// At least 1.
-    int cycles = 1;
+    /// At least 1; absent: one, or as many as there is time for where `watch` is set.
+    std::optional<int> cycles;
     /// Seconds from the start of a cycle to the start of the next, at least 0; absent: the stored scan
     /// interval.
     std::optional<double> interval;
     /// Absent: the order that the last scan gave the list.
     std::optional<SortOption> sort;
     bool visibleOnly = false;
+    /// After every cycle a line of JSON for each access point goes to standard output, and nothing else does.
+    bool watch = false;
     /// Absent: the list is not written, unless `details` is empty as well.
     std::optional<QString> listFile;
     QList<Details> details;

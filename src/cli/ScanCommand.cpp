@@ -21,11 +21,31 @@ ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, 
     , m_output(output)
     , m_complain(std::move(complain))
     , m_onEnd(std::move(onEnd))
-    , m_run(surroundings, m_arguments.cycles, m_arguments.interval,
-            [this](RunOutcome outcome) { endRun(outcome); })
+    , m_run(
+          surroundings, cycles(), m_arguments.interval, [this] { endCycle(); },
+          [this](RunOutcome outcome) { endRun(outcome); })
 {
     if (m_arguments.visibleOnly) {
         m_run.scanner().setShowHiddenNetworks(false);
+    }
+}
+
+std::optional<int> ScanCommand::cycles() const
+{
+    if (m_arguments.watch) {
+        return m_arguments.cycles;
+    }
+    return m_arguments.cycles.value_or(1);
+}
+
+void ScanCommand::endCycle()
+{
+    // A cycle that failed has a line in the log; the list is still the one of the cycle before.
+    if (!m_arguments.watch || m_run.scanner().status() == ScannerStatus::error) {
+        return;
+    }
+    if (!print(m_watchLines.ofCycle(m_run.cyclesEnded(), m_run.scanner().networks()))) {
+        m_run.interrupt();
     }
 }
 
@@ -33,6 +53,7 @@ void ScanCommand::endRun(RunOutcome outcome)
 {
     switch (outcome) {
     case RunOutcome::completed:
+    case RunOutcome::interrupted:
         break;
     case RunOutcome::lastCycleFailed:
         trouble(ExitStatus::failed, m_run.scanner().error().value_or(QString()));
@@ -51,7 +72,9 @@ void ScanCommand::endRun(RunOutcome outcome)
     }
     // The new order is published on the next turn.
     m_surroundings.mainQueue.async([this] {
-        writeExports();
+        if (!m_arguments.watch) {
+            writeExports();
+        }
         m_onEnd(m_status);
     });
 }
@@ -107,11 +130,21 @@ void ScanCommand::write(const QString& file, const QByteArray& document)
     if (isatty(fileno(m_output)) != 0 && !bytes.endsWith('\n')) {
         bytes.append('\n');
     }
+    print(bytes);
+}
+
+bool ScanCommand::print(const QByteArray& bytes)
+{
     const auto size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, m_output) != size || std::fflush(m_output) != 0) {
+    if (std::fwrite(bytes.constData(), 1, size, m_output) == size && std::fflush(m_output) == 0) {
+        return true;
+    }
+    // Who reads a pipe may have read enough.
+    if (errno != EPIPE) {
         trouble(ExitStatus::failed,
                 u"Cannot write standard output: "_s + QString::fromLocal8Bit(std::strerror(errno)));
     }
+    return false;
 }
 
 void ScanCommand::trouble(ExitStatus status, const QString& line)

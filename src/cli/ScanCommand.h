@@ -3,12 +3,14 @@
 #include "cli/Arguments.h"
 #include "cli/ExitStatus.h"
 #include "cli/ScanRun.h"
+#include "cli/WatchLines.h"
 #include "platform/Surroundings.h"
 
 #include <QString>
 
 #include <cstdio>
 #include <functional>
+#include <optional>
 
 namespace aerolith {
 
@@ -20,13 +22,20 @@ public:
     ScanCommand(const Surroundings& surroundings, Arguments arguments, std::FILE* output,
                 std::function<void(const QString&)> complain, std::function<void(ExitStatus)> onEnd);
 
+    /// Ends it as if the cycle that ended last had been the last one, without a complaint.
+    void interrupt() { m_run.interrupt(); }
+
 private:
+    [[nodiscard]] std::optional<int> cycles() const;
+    void endCycle();
     void endRun(RunOutcome outcome);
     void writeExports();
     void writeDetails(const Arguments::Details& asked);
     [[nodiscard]] QByteArray list();
     [[nodiscard]] QByteArray details(const WiFiNetwork& network) const;
     void write(const QString& file, const QByteArray& document);
+    /// Whether there is still somebody to write for.
+    bool print(const QByteArray& bytes);
     /// The first trouble decides the exit status.
     void trouble(ExitStatus status, const QString& line);
 
@@ -37,6 +46,7 @@ private:
     std::function<void(ExitStatus)> m_onEnd;
     ExitStatus m_status = ExitStatus::success;
     bool m_outputUsed = false;
+    WatchLines m_watchLines;
     ScanRun m_run;
 };
 

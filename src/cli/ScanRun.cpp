@@ -21,8 +21,8 @@ Surroundings withLocationManager(Surroundings surroundings, CLLocationManager& m
 
 } // namespace
 
-ScanRun::ScanRun(const Surroundings& surroundings, int cycles, std::optional<double> interval,
-                 std::function<void(RunOutcome)> onEnd)
+ScanRun::ScanRun(const Surroundings& surroundings, std::optional<int> cycles, std::optional<double> interval,
+                 std::function<void()> onCycle, std::function<void(RunOutcome)> onEnd)
     : m_surroundings(surroundings)
     , m_locationManager(surroundings.locationManager,
                         [this] {
@@ -32,8 +32,9 @@ ScanRun::ScanRun(const Surroundings& surroundings, int cycles, std::optional<dou
                         })
     , m_selection(surroundings.mainQueue)
     , m_scanner(m_selection, withLocationManager(surroundings, m_locationManager))
-    , m_cyclesLeft(cycles)
+    , m_cycles(cycles)
     , m_interval(interval.value_or(m_scanner.scanInterval()))
+    , m_onCycle(std::move(onCycle))
     , m_onEnd(std::move(onEnd))
 {
     // The list is published on the turn after a cycle's end.
@@ -43,25 +44,38 @@ ScanRun::ScanRun(const Surroundings& surroundings, int cycles, std::optional<dou
 
 void ScanRun::startCycle()
 {
+    if (m_ended) {
+        return;
+    }
     m_sinceStart.start();
     m_scanner.scanNetworks();
 }
 
 void ScanRun::endCycle()
 {
-    --m_cyclesLeft;
-    if (m_scanner.status() == ScannerStatus::scanning) {
-        m_onEnd(RunOutcome::noInterface);
+    if (m_ended) {
         return;
     }
-    if (m_cyclesLeft == 0) {
-        m_onEnd(m_scanner.status() == ScannerStatus::error ? RunOutcome::lastCycleFailed
-                                                           : RunOutcome::completed);
+    if (m_scanner.status() == ScannerStatus::scanning) {
+        end(RunOutcome::noInterface);
+        return;
+    }
+    ++m_cyclesEnded;
+    m_onCycle();
+    if (m_cyclesEnded == m_cycles) {
+        end(m_scanner.status() == ScannerStatus::error ? RunOutcome::lastCycleFailed : RunOutcome::completed);
         return;
     }
     const Seconds elapsed = std::chrono::milliseconds(m_sinceStart.elapsed());
     m_surroundings.mainQueue.asyncAfter(std::max(Seconds(0), m_interval - elapsed),
                                         m_lifeline.guarded([this] { startCycle(); }));
+}
+
+void ScanRun::end(RunOutcome outcome)
+{
+    if (!std::exchange(m_ended, true)) {
+        m_onEnd(outcome);
+    }
 }
 
 } // namespace aerolith

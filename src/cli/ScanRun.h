@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 
 #include <functional>
+#include <optional>
 
 namespace aerolith {
 
@@ -20,6 +21,8 @@ enum class RunOutcome
     lastCycleFailed,
     /// A cycle found no interface, and the run ended with it.
     noInterface,
+    /// Somebody ended it.
+    interrupted,
 };
 
 /// Runs a number of scan cycles through a scanner of its own, once the location authorization is decided: at
@@ -27,25 +30,36 @@ enum class RunOutcome
 class ScanRun
 {
 public:
-    /// `interval` absent: the stored scan interval. `onEnd` runs once, after the last cycle's list has been
-    /// published.
-    ScanRun(const Surroundings& surroundings, int cycles, std::optional<double> interval,
-            std::function<void(RunOutcome)> onEnd);
+    /// `cycles` absent: until it is interrupted. `interval` absent: the stored scan interval. `onCycle` runs
+    /// after each cycle that found an interface, once its list has been published; `onEnd` runs once, after
+    /// the last of them.
+    ScanRun(const Surroundings& surroundings, std::optional<int> cycles, std::optional<double> interval,
+            std::function<void()> onCycle, std::function<void(RunOutcome)> onEnd);
 
     [[nodiscard]] WiFiScanner& scanner() { return m_scanner; }
+
+    /// The cycles that have ended, those that failed included.
+    [[nodiscard]] int cyclesEnded() const { return m_cyclesEnded; }
+
+    /// Ends the run now; a cycle that is under way does not count.
+    void interrupt() { end(RunOutcome::interrupted); }
 
 private:
     void startCycle();
     void endCycle();
+    void end(RunOutcome outcome);
 
     Surroundings m_surroundings;
     QuietLocationManager m_locationManager;
     SelectionStore m_selection;
     WiFiScanner m_scanner;
-    int m_cyclesLeft;
+    std::optional<int> m_cycles;
     Seconds m_interval;
+    std::function<void()> m_onCycle;
     std::function<void(RunOutcome)> m_onEnd;
+    int m_cyclesEnded = 0;
     bool m_started = false;
+    bool m_ended = false;
     QElapsedTimer m_sinceStart;
     Lifeline m_lifeline;
 };

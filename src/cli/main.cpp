@@ -2,11 +2,14 @@
 #include "cli/ExitStatus.h"
 #include "cli/ScanCommand.h"
 #include "platform/qt/StandardLog.h"
+#include "platform/qt/TerminationSignals.h"
 #include "plug/PluggedPlatform.h"
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <cstdio>
+#include <optional>
 
 using namespace aerolith;
 using namespace Qt::StringLiterals;
@@ -26,22 +29,35 @@ int fail(ExitStatus status, const QString& description)
 
 int scan(const Arguments& arguments)
 {
+    std::optional<ScanCommand> command;
+    // First of all: who starts the program may end it as soon as it shows a sign of life.
+    std::optional<TerminationSignals> terminationSignals;
+    if (arguments.watch) {
+        terminationSignals.emplace([&command] { command->interrupt(); });
+    }
     const auto platform =
         plugPlatform({.simulate = arguments.simulate, .logStream = stderr, .settingsPath = std::nullopt});
     if (!platform.ok()) {
         return fail(ExitStatus::usage, platform.error().description);
     }
-    const ScanCommand command(
+    command.emplace(
         platform.value()->surroundings(), arguments, stdout,
         [](const QString& line) { fail(ExitStatus::failed, line); },
         [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); });
-    return QCoreApplication::exec();
+    const int status = QCoreApplication::exec();
+    platform.value()->stopScanning();
+    // It ends before the platform that it refers to.
+    command.reset();
+    return status;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    // Standard output may be a pipe that its reader closes.
+    std::signal(SIGPIPE, SIG_IGN);
+
     const QCoreApplication application(argc, argv);
     const auto arguments = parseArguments(QCoreApplication::arguments().sliced(1));
     if (!arguments.ok()) {

@@ -49,6 +49,14 @@ QByteArray networkListJson(const WiFiNetworkList& networks)
     return QJsonDocument(QJsonObject{{u"networks"_s, list}}).toJson();
 }
 
+QByteArray networkLineJson(const WiFiNetwork& network, int cycle, bool heard)
+{
+    QJsonObject line = objectOf(network);
+    line.insert(u"cycle"_s, cycle);
+    line.insert(u"heard"_s, heard);
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
 QByteArray networkDetailsJson(const WiFiNetwork& network)
 {
     QJsonArray history;

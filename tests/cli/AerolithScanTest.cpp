@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -38,11 +39,28 @@ protected:
     Outcome run(const QString& arguments)
     {
         QProcess process;
+        start(process, arguments);
+        return end(process);
+    }
+
+    void start(QProcess& process, const QString& arguments)
+    {
+        process.setProgram(QStringLiteral(AEROLITH_SCAN));
+        start(process, arguments.split(u' ', Qt::SkipEmptyParts));
+    }
+
+    void start(QProcess& process, const QStringList& arguments)
+    {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"XDG_CONFIG_HOME"_s, m_folder.path());
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
-        process.start(QStringLiteral(AEROLITH_SCAN), arguments.split(u' ', Qt::SkipEmptyParts));
+        process.setArguments(arguments);
+        process.start();
+    }
+
+    static Outcome end(QProcess& process)
+    {
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -111,6 +129,63 @@ TEST_F(AerolithScan, SortsLastAndHonoursTheStoredSettings)
     const QJsonArray history = QJsonDocument::fromJson(details.output).object()[u"signalHistory"_s].toArray();
     ASSERT_EQ(history.size(), 1) << "hidden access points have details too";
     EXPECT_EQ(history[0].toObject()[u"rssi"_s], QJsonValue(-100));
+}
+
+TEST_F(AerolithScan, WatchesWithALineForEachAccessPointAndCycle)
+{
+    write(u"air.json"_s, R"({"cycles": [
+        {"networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -40},
+                      {"bssid": "02:00:00:00:00:02", "ssid": "Quay", "rssi": -70}]},
+        {"error": "Busy"},
+        {"networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -42}]}]})");
+    const Outcome outcome = run(u"--simulate air.json --watch --cycles 3 --interval 0"_s);
+    EXPECT_EQ(outcome.status, 0);
+    const QByteArrayList written = outcome.output.split('\n');
+    ASSERT_EQ(written.size(), 5) << outcome.output.toStdString();
+
+    struct Line
+    {
+        int cycle;
+        bool heard;
+        int rssi;
+    };
+
+    const Line expected[] = {{1, true, -40}, {1, true, -70}, {3, true, -42}, {3, false, -70}};
+    for (qsizetype i = 0; i < 4; ++i) {
+        const QJsonObject line = QJsonDocument::fromJson(written[i]).object();
+        EXPECT_EQ(line[u"cycle"_s], QJsonValue(expected[i].cycle)) << written[i].toStdString();
+        EXPECT_EQ(line[u"heard"_s], QJsonValue(expected[i].heard));
+        EXPECT_EQ(line[u"rssi"_s], QJsonValue(expected[i].rssi));
+    }
+    EXPECT_EQ(QJsonDocument::fromJson(written[0]).object()[u"ssidBytes"_s], QJsonValue(u"410a62"_s));
+    EXPECT_EQ(run(u"--simulate air.json --watch --cycles 2 --interval 0"_s).status, 1);
+    EXPECT_EQ(run(u"--simulate --watch --interval 0 --list a.csv"_s).status, 2);
+}
+
+TEST_F(AerolithScan, WatchesUntilInterruptedOrNobodyReads)
+{
+    // The scan that is interrupted would go on for a day.
+    write(u"slow.json"_s, R"({"scanSeconds": 86400, "cycles": [{"networks": []}]})");
+    write(u"air.json"_s, twoCycles);
+    for (const int signal : {SIGINT, SIGTERM}) {
+        for (const QString& name : {u"air.json"_s, u"slow.json"_s}) {
+            QProcess process;
+            start(process, u"--watch --interval 3600 --simulate "_s + name);
+            process.setReadChannel(name.startsWith(u'a') ? QProcess::StandardOutput
+                                                         : QProcess::StandardError);
+            ASSERT_TRUE(process.waitForReadyRead()) << "what a cycle brings is written at its end";
+            kill(static_cast<pid_t>(process.processId()), signal);
+            EXPECT_EQ(end(process).status, 0) << name.toStdString();
+        }
+    }
+    QProcess unread;
+    unread.setProgram(u"bash"_s);
+    start(unread, {u"-c"_s, u"set -o pipefail; %1 --watch --interval 0 --simulate air.json | head -n 1"_s.arg(
+                                QStringLiteral(AEROLITH_SCAN))});
+    const Outcome outcome = end(unread);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output.count('\n'), 1);
+    EXPECT_FALSE(outcome.errors.contains("aerolith-scan:")) << outcome.errors.toStdString();
 }
 
 TEST_F(AerolithScan, WritesFilesWholeOrNotAtAll)

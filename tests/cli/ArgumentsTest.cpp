@@ -19,9 +19,9 @@ Result<Arguments> parsed(const QString& line)
 TEST(Arguments, HaveDefaults)
 {
     const Arguments arguments = parsed(u""_s).value();
-    EXPECT_EQ(arguments.cycles, 1);
-    EXPECT_FALSE(arguments.simulate || arguments.interval || arguments.sort || arguments.listFile);
-    EXPECT_FALSE(arguments.visibleOnly);
+    EXPECT_FALSE(arguments.simulate || arguments.cycles || arguments.interval || arguments.sort ||
+                 arguments.listFile);
+    EXPECT_FALSE(arguments.visibleOnly || arguments.watch);
     EXPECT_EQ(arguments.format, ExportFormat::csv);
 }
 
@@ -43,6 +43,7 @@ TEST(Arguments, AreRead)
     EXPECT_EQ(arguments.details[1].file, u"-"_s);
     EXPECT_EQ(arguments.format, ExportFormat::json);
     EXPECT_FALSE(parsed(u"--simulate --cycles 2"_s).value().simulate->scenarioFile);
+    EXPECT_TRUE(parsed(u"--watch --cycles 2 --visible-only"_s).value().watch);
 }
 
 TEST(Arguments, SayWhatWasExpected)
@@ -58,6 +59,11 @@ TEST(Arguments, SayWhatWasExpected)
         {u"--details aa:bb"_s, u"--details needs a file after the BSSID"_s},
         {u"--details"_s, u"--details needs a BSSID and a file"_s},
         {u"--list --visible-only"_s, u"--list needs a file"_s},
+        {u"--watch --list a.json"_s, u"--watch writes JSON lines as it scans, it does not go with --list"_s},
+        {u"--details aa b.csv --watch"_s,
+         u"--watch writes JSON lines as it scans, it does not go with --details"_s},
+        {u"--watch --format json"_s,
+         u"--watch writes JSON lines as it scans, it does not go with --format"_s},
         {u"list.csv"_s, u"Unknown argument \"list.csv\" (try --help)"_s},
     };
     for (const auto& [line, description] : cases) {

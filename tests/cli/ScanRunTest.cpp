@@ -17,15 +17,16 @@ class ScanRunTest : public testing::Test
 protected:
     void start(int cycles, std::optional<double> interval = {})
     {
-        m_run.emplace(Surroundings{.wifiClient = m_wifi,
-                                   .locationManager = m_location,
-                                   .userDefaults = m_defaults,
-                                   .mainQueue = m_main,
-                                   .makeSerialQueue = m_tasks.factory(),
-                                   .clock = m_main,
-                                   .log = m_log,
-                                   .locale = {}},
-                      cycles, interval, [this](RunOutcome outcome) { m_outcome = outcome; });
+        m_run.emplace(
+            Surroundings{.wifiClient = m_wifi,
+                         .locationManager = m_location,
+                         .userDefaults = m_defaults,
+                         .mainQueue = m_main,
+                         .makeSerialQueue = m_tasks.factory(),
+                         .clock = m_main,
+                         .log = m_log,
+                         .locale = {}},
+            cycles, interval, [] {}, [this](RunOutcome outcome) { m_outcome = outcome; });
     }
 
     /// Performs the cycle that is due, if any.

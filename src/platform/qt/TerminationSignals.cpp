@@ -1,4 +1,4 @@
-#include "app/TerminationSignals.h"
+#include "platform/qt/TerminationSignals.h"
 
 #include <cerrno>
 #include <csignal>
