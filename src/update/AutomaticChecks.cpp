@@ -12,7 +12,17 @@ constexpr std::chrono::hours period{24};
 /// Rather than one timer of a whole day: the machine may sleep, and its clock be set.
 constexpr std::chrono::hours lookInterval{1};
 
+std::chrono::seconds secondsNow(const Clock& clock)
+{
+    return std::chrono::floor<std::chrono::seconds>(clock.now()).time_since_epoch();
+}
+
 } // namespace
+
+bool isCheckDue(std::optional<qint64> last, std::chrono::seconds now)
+{
+    return !last || *last > now.count() || *last <= (now - period).count();
+}
 
 AutomaticChecks::AutomaticChecks(UserDefaults& userDefaults, const Clock& clock, MainQueue& mainQueue,
                                  Task check)
@@ -38,8 +48,7 @@ void AutomaticChecks::setWanted(bool wanted)
 
 void AutomaticChecks::noteCheck()
 {
-    const auto now = std::chrono::floor<std::chrono::seconds>(m_clock.now());
-    m_userDefaults.setInteger(now.time_since_epoch().count(), SettingKeys::lastUpdateCheck);
+    m_userDefaults.setInteger(secondsNow(m_clock).count(), SettingKeys::lastUpdateCheck);
 }
 
 void AutomaticChecks::schedule()
@@ -53,20 +62,9 @@ void AutomaticChecks::schedule()
 
 void AutomaticChecks::checkIfDue()
 {
-    if (isDue()) {
+    if (isCheckDue(m_userDefaults.integerForKey(SettingKeys::lastUpdateCheck), secondsNow(m_clock))) {
         m_check();
     }
-}
-
-bool AutomaticChecks::isDue() const
-{
-    const auto last = m_userDefaults.integerForKey(SettingKeys::lastUpdateCheck);
-    if (!last) {
-        return true;
-    }
-    const qint64 now = std::chrono::floor<std::chrono::seconds>(m_clock.now()).time_since_epoch().count();
-    // A check in the future was noted by a clock that has been set back since.
-    return *last > now || now - *last >= std::chrono::seconds(period).count();
 }
 
 } // namespace aerolith

@@ -4,9 +4,15 @@
 #include "platform/Queues.h"
 #include "platform/UserDefaults.h"
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace aerolith {
+
+/// Whether the last check, in seconds since 1970 or absent, was a day ago or more. Any number is one that a
+/// settings file may hold; one from the future was noted by a clock that has been set back since.
+[[nodiscard]] bool isCheckDue(std::optional<qint64> last, std::chrono::seconds now);
 
 /// When a check is due without being asked for: once a day at most, and only if the user wants it. No timer
 /// runs while the user does not. Main thread.
@@ -28,7 +34,6 @@ public:
 private:
     void schedule();
     void checkIfDue();
-    [[nodiscard]] bool isDue() const;
 
     UserDefaults& m_userDefaults;
     const Clock& m_clock;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QUrl>
+
+#include <optional>
 
 namespace aerolith {
 
@@ -10,6 +13,14 @@ namespace aerolith {
 {
     return url.isValid() && url.scheme() == QStringLiteral("https") && !url.host().isEmpty() &&
            url.userInfo().isEmpty();
+}
+
+/// Where a server's Location header leads from the address that it answered for; absent where that is nothing
+/// to fetch from.
+[[nodiscard]] inline std::optional<QUrl> redirectTarget(const QUrl& from, const QByteArray& location)
+{
+    const QUrl target = from.resolved(QUrl::fromEncoded(location, QUrl::StrictMode));
+    return !location.isEmpty() && isHttpsAddress(target) ? std::optional(target) : std::nullopt;
 }
 
 } // namespace aerolith

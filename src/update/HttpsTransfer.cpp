@@ -99,15 +99,15 @@ void HttpsTransfer::handleStatus()
 void HttpsTransfer::redirect()
 {
     const QByteArray location = m_reply->rawHeader("Location");
-    const QUrl target = m_reply->url().resolved(QUrl::fromEncoded(location, QUrl::StrictMode));
-    if (location.isEmpty() || !isHttpsAddress(target)) {
+    const auto target = redirectTarget(m_reply->url(), location);
+    if (!target) {
         constexpr qsizetype longest = 200;
         end(Error{u"%1 redirects to an address that is not https: %2"_s.arg(
             host(), QString::fromUtf8(location).left(longest))});
     } else if (++m_redirects > mostRedirects) {
         end(Error{u"%1 redirects more than %2 times"_s.arg(host()).arg(mostRedirects)});
     } else {
-        request(target);
+        request(*target);
     }
 }
 

@@ -1,7 +1,11 @@
 #include "platform/qt/SettingsFile.h"
 
+#include "platform/qt/FileWriting.h"
+
+#include <QFile>
 #include <QStandardPaths>
 
+#include <cctype>
 #include <cmath>
 #include <utility>
 
@@ -9,16 +13,48 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Whether the line holds a value of a type that the program does not store, in the form in which Qt stores
+/// types without a text of their own. Of those the program stores 6, a number with a fraction, alone. In any
+/// other, which one damaged byte may make of it, a length may stand that asks for more memory than there is.
+bool isForeign(const QByteArray& line)
+{
+    constexpr QByteArrayView stored = "Variant(";
+    constexpr QByteArrayView number = R"(Variant(\0\0\0\x6)";
+    for (qsizetype at = line.indexOf(stored); at >= 0; at = line.indexOf(stored, at + 1)) {
+        const QByteArrayView rest = QByteArrayView(line).sliced(at);
+        const bool isNumber = rest.startsWith(number) && rest.size() > number.size() &&
+                              !std::isxdigit(static_cast<unsigned char>(rest[number.size()]));
+        if (!isNumber) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 SettingsFile::SettingsFile(QString path, Log& log) : m_path(std::move(path)), m_log(log)
 {
+    const Cleaning cleaning = removeForeignValues();
+    if (cleaning != Cleaning::unnecessary) {
+        m_log.line(malformed());
+    }
+    if (cleaning == Cleaning::failed) {
+        return;
+    }
     const QSettings file(m_path, QSettings::IniFormat);
     if (file.status() == QSettings::AccessError) {
         m_log.line(accessRefused("read"_L1));
     } else if (file.status() == QSettings::FormatError) {
-        m_log.line(u"The settings file %1 is malformed: what cannot be read counts as not set"_s.arg(m_path));
+        m_log.line(malformed());
     }
     for (const QString& key : file.allKeys()) {
-        m_values.insert(key, file.value(key));
+        // What has no name cannot be asked for.
+        if (!key.isEmpty()) {
+            m_values.insert(key, file.value(key));
+        }
     }
 }
 
@@ -75,8 +111,24 @@ void SettingsFile::store(const QString& key, const QVariant& value)
     m_failureLogged = failed;
 }
 
+SettingsFile::Cleaning SettingsFile::removeForeignValues() const
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Cleaning::unnecessary;
+    }
+    QList<QByteArray> lines = file.readAll().split('\n');
+    if (lines.removeIf(isForeign) == 0) {
+        return Cleaning::unnecessary;
+    }
+    return writeFile(m_path, lines.join('\n')) ? Cleaning::failed : Cleaning::done;
+}
+
 QSettings::Status SettingsFile::save() const
 {
+    if (removeForeignValues() == Cleaning::failed) {
+        return QSettings::AccessError;
+    }
     // A new object each time: one that has failed once tells of failure ever after.
     QSettings file(m_path, QSettings::IniFormat);
     for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved) {
@@ -84,6 +136,11 @@ QSettings::Status SettingsFile::save() const
     }
     file.sync();
     return file.status();
+}
+
+QString SettingsFile::malformed() const
+{
+    return u"The settings file %1 is malformed: what cannot be read counts as not set"_s.arg(m_path);
 }
 
 QString SettingsFile::accessRefused(QLatin1StringView action) const

@@ -35,10 +35,20 @@ public:
     void setData(const QByteArray& value, const QString& key) override { store(key, value); }
 
 private:
+    enum class Cleaning
+    {
+        unnecessary,
+        done,
+        failed
+    };
+
     [[nodiscard]] QVariant stored(const QString& key) const;
     void store(const QString& key, const QVariant& value);
+    /// Takes the lines out of the file that Qt must not read.
+    [[nodiscard]] Cleaning removeForeignValues() const;
     /// Writes what is not in the file yet.
     [[nodiscard]] QSettings::Status save() const;
+    [[nodiscard]] QString malformed() const;
     [[nodiscard]] QString accessRefused(QLatin1StringView action) const;
 
     mutable std::mutex m_mutex;

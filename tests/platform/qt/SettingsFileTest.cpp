@@ -86,6 +86,23 @@ TEST_F(SettingsFileTest, CountsNonsenseAsAbsentAndStaysUsable)
     }
 }
 
+TEST_F(SettingsFileTest, KeepsQtFromValuesThatTheProgramDoesNotStore)
+{
+    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
+    // A list of four thousand million texts, by one damaged byte; the other number is whole.
+    write("historyLimit=20\nscanInterval=@Variant(\\0\\0\\0\\xB\\xff\\xff\\xff\\xf0\\0\\0)\n"
+          "other=@Variant(\\0\\0\\0\\x6@.\\0\\0\\0\\0\\0\\0)\n");
+    SettingsFile settings(m_path, m_log);
+    EXPECT_EQ(m_log.take(), QStringList(u"The settings file %1 is malformed: what cannot be read counts as "
+                                        "not set"_s.arg(m_path)));
+    EXPECT_FALSE(settings.doubleForKey(u"scanInterval"_s));
+    EXPECT_EQ(settings.integerForKey(u"historyLimit"_s), 20);
+    EXPECT_EQ(settings.doubleForKey(u"other"_s), 15.0);
+    settings.setDouble(7.5, u"scanInterval"_s);
+    EXPECT_EQ(SettingsFile(m_path, m_log).doubleForKey(u"scanInterval"_s), 7.5);
+    EXPECT_EQ(m_log.take(), QStringList());
+}
+
 TEST_F(SettingsFileTest, GoesOnWithAFileThatCannotBeWrittenAndStoresAllOnceItCan)
 {
     QFile blocker(m_folder.filePath(u"aerolith"_s));

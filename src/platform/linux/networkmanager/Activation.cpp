@@ -32,6 +32,22 @@ constexpr uint activeDeactivated = 4;
 
 } // namespace
 
+std::optional<ActivationObjects> activationObjects(const QVariantList& arguments)
+{
+    QStringList paths;
+    for (const auto& argument : arguments) {
+        if (const auto path = argument.value<QDBusObjectPath>().path(); !path.isEmpty()) {
+            paths.append(path);
+        }
+    }
+    if (paths.isEmpty()) {
+        return {};
+    }
+    // A new profile's answer is the profile and the active connection, a stored one's the latter alone.
+    return ActivationObjects{.profilePath = paths.size() > 1 ? paths.first() : QString(),
+                             .activePath = paths.last()};
+}
+
 Activation::Activation(const NetworkManager& manager, QString devicePath, std::chrono::milliseconds timeLimit)
     : m_manager(manager)
     , m_devicePath(std::move(devicePath))
@@ -118,21 +134,15 @@ void Activation::take(const QDBusPendingCall& answer)
         finish(ActivationOutcome::refused);
         return;
     }
-    // A new profile's answer is the profile and the active connection, a stored one's the latter alone.
-    QStringList paths;
-    for (const auto& argument : answer.reply().arguments()) {
-        if (const auto path = argument.value<QDBusObjectPath>().path(); !path.isEmpty()) {
-            paths.append(path);
-        }
-    }
-    if (paths.isEmpty()) {
+    const auto objects = activationObjects(answer.reply().arguments());
+    if (!objects) {
         m_end.refusal = {RemoteFailure::wrongAnswer, u"NetworkManager gave an answer of a wrong type"_s};
         finish(ActivationOutcome::refused);
         return;
     }
-    m_end.activePath = paths.last();
-    if (paths.size() > 1) {
-        m_end.profilePath = paths.first();
+    m_end.activePath = objects->activePath;
+    if (!objects->profilePath.isEmpty()) {
+        m_end.profilePath = objects->profilePath;
         m_agent.setProfile(m_end.profilePath);
     }
     m_deadline.setRemainingTime(m_timeLimit);

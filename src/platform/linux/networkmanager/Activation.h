@@ -13,9 +13,11 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QVariant>
 
 #include <atomic>
 #include <chrono>
+#include <optional>
 
 namespace aerolith {
 
@@ -45,6 +47,17 @@ struct ActivationEnd
     QString profilePath = {};
     QString activePath = {};
 };
+
+/// The objects that NetworkManager has made for an activation.
+struct ActivationObjects
+{
+    /// Empty where the profile was there before.
+    QString profilePath;
+    QString activePath;
+};
+
+/// Reads the answer to a request to activate, argument by argument; absent where it names no object.
+[[nodiscard]] std::optional<ActivationObjects> activationObjects(const QVariantList& arguments);
 
 /// One activation of a connection profile on one device, followed from its request to its end. Lives on one
 /// thread.

@@ -120,9 +120,7 @@ Result<std::optional<std::chrono::milliseconds>> NetworkManager::lastScan(const 
     if (!milliseconds.ok()) {
         return milliseconds.error();
     }
-    // NetworkManager's "never" is -1.
-    return milliseconds.value() < 0 ? std::nullopt
-                                    : std::optional(std::chrono::milliseconds(milliseconds.value()));
+    return lastScanTime(milliseconds.value());
 }
 
 std::optional<RemoteError> NetworkManager::requestScan(const QString& devicePath,
@@ -181,6 +179,15 @@ void NetworkManager::deactivate(const QString& activePath) const
     Call<ManagerProxy> call(m_bus, objectPath);
     // One that has ended meanwhile cannot be ended.
     call.proxy().DeactivateConnection(QDBusObjectPath(activePath)).waitForFinished();
+}
+
+std::optional<std::chrono::milliseconds> lastScanTime(qint64 milliseconds)
+{
+    // Clocks count nanoseconds.
+    constexpr auto latest = std::chrono::floor<std::chrono::milliseconds>(std::chrono::nanoseconds::max());
+    return milliseconds < 0 || milliseconds > latest.count()
+               ? std::nullopt
+               : std::optional(std::chrono::milliseconds(milliseconds));
 }
 
 QVariantMap scanOptions(const std::optional<QByteArray>& ssid)

@@ -73,7 +73,7 @@ public:
     [[nodiscard]] Result<std::optional<ManagedDevice>> device(const QString& interfaceName) const;
 
     /// When the device's newest scan ended, since boot with sleep included; absent when it has not scanned
-    /// yet.
+    /// yet, see lastScanTime().
     [[nodiscard]] Result<std::optional<std::chrono::milliseconds>> lastScan(const QString& devicePath) const;
 
     /// Has the device scan, for the name given too when there is one; returns when the request is accepted,
@@ -101,6 +101,10 @@ private:
 
     BusConnection m_bus;
 };
+
+/// The time that NetworkManager's LastScan stands for; absent for its "never", which is -1, and for what no
+/// clock reaches.
+[[nodiscard]] std::optional<std::chrono::milliseconds> lastScanTime(qint64 milliseconds);
 
 /// The options of NetworkManager's RequestScan for a full scan, or for one that asks for a name too.
 [[nodiscard]] QVariantMap scanOptions(const std::optional<QByteArray>& ssid);

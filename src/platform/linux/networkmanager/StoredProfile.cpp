@@ -35,18 +35,29 @@ std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QStri
     if (!paths.ok()) {
         return {};
     }
-    std::optional<StoredProfile> newest;
-    qulonglong newestUse = 0;
+    QList<StoredProfile> profiles;
     for (const auto& path : paths.value()) {
         Call<ProfileProxy> call(bus, path.path());
         auto settings = call.proxy().GetSettings();
         settings.waitForFinished();
-        if (settings.isError() || settings.value()[wirelessSection].value(u"ssid"_s).toByteArray() != ssid) {
+        if (!settings.isError()) {
+            profiles.append({path.path(), settings.value()});
+        }
+    }
+    return newestProfile(profiles, ssid);
+}
+
+std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles, const QByteArray& ssid)
+{
+    std::optional<StoredProfile> newest;
+    qulonglong newestUse = 0;
+    for (const auto& profile : profiles) {
+        if (profile.settings[wirelessSection].value(u"ssid"_s).toByteArray() != ssid) {
             continue;
         }
-        const auto used = settings.value()[u"connection"_s].value(u"timestamp"_s).toULongLong();
+        const auto used = profile.settings[u"connection"_s].value(u"timestamp"_s).toULongLong();
         if (!newest || used > newestUse) {
-            newest = StoredProfile{path.path(), settings.value()};
+            newest = profile;
             newestUse = used;
         }
     }
@@ -71,13 +82,18 @@ bool hasPassword(const BusConnection& bus, const StoredProfile& profile, const C
     return isSame;
 }
 
-Failure storePassword(const BusConnection& bus, const StoredProfile& profile,
-                      const ConnectionSettings& settings)
+ConnectionSettings withPassword(const StoredProfile& profile, const ConnectionSettings& settings)
 {
     auto changed = profile.settings;
     const auto name = passwordSetting(settings);
     changed[securitySection][name] = settings[securitySection].value(name);
-    return update(bus, profile.path, changed);
+    return changed;
+}
+
+Failure storePassword(const BusConnection& bus, const StoredProfile& profile,
+                      const ConnectionSettings& settings)
+{
+    return update(bus, profile.path, withPassword(profile, settings));
 }
 
 Failure keepProfile(const BusConnection& bus, const QString& path)

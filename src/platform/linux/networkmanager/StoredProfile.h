@@ -5,6 +5,7 @@
 #include "platform/linux/networkmanager/DBusTypes.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -23,10 +24,19 @@ struct StoredProfile
 [[nodiscard]] std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
                                                          const QByteArray& ssid);
 
+/// Of these the profile for the network of that name that was used last, the first of several; absent where
+/// none is for it. Settings of a wrong type count as not set.
+[[nodiscard]] std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles,
+                                                         const QByteArray& ssid);
+
 /// Whether `settings` hold no password but the one that the profile has; false where this user may not know
 /// that one.
 [[nodiscard]] bool hasPassword(const BusConnection& bus, const StoredProfile& profile,
                                const ConnectionSettings& settings);
+
+/// The profile's settings with the password of `settings`, which have one, and with all else as it is.
+[[nodiscard]] ConnectionSettings withPassword(const StoredProfile& profile,
+                                              const ConnectionSettings& settings);
 
 /// Stores the password of `settings` in the profile, and leaves all else in it as it is.
 [[nodiscard]] Failure storePassword(const BusConnection& bus, const StoredProfile& profile,
