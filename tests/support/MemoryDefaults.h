@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QVariant>
 
+#include <mutex>
+
 namespace aerolith {
 
 /// User defaults that last as long as the test.
@@ -26,20 +28,28 @@ public:
         return get<QByteArray>(key);
     }
 
-    void setDouble(double value, const QString& key) override { m_values.insert(key, value); }
+    void setDouble(double value, const QString& key) override { set(key, value); }
 
-    void setInteger(qint64 value, const QString& key) override { m_values.insert(key, value); }
+    void setInteger(qint64 value, const QString& key) override { set(key, value); }
 
-    void setData(const QByteArray& value, const QString& key) override { m_values.insert(key, value); }
+    void setData(const QByteArray& value, const QString& key) override { set(key, value); }
 
 private:
+    void set(const QString& key, const QVariant& value)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_values.insert(key, value);
+    }
+
     template <typename Value>
     [[nodiscard]] std::optional<Value> get(const QString& key) const
     {
+        const std::lock_guard lock(m_mutex);
         const auto found = m_values.constFind(key);
         return found != m_values.cend() ? std::optional(found->template value<Value>()) : std::nullopt;
     }
 
+    mutable std::mutex m_mutex;
     QHash<QString, QVariant> m_values;
 };
 
