@@ -40,7 +40,7 @@ grep -q '^"Willow Cottage",' "$system/var/air.csv"
 # To the session bus that system's root is here. The machine's own Wi-Fi is left alone.
 sed -i "s,^Exec=,&$system," "$system/usr/share/dbus-1/services/org.aerolith.Aerolith.service"
 XDG_DATA_DIRS=$system/usr/share:/usr/share DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent \
-    "$(dirname "$0")/../desktop/run.sh" "$0" "$system" in-session
+    "$(dirname "$0")/../desktop/run.sh" x11 "$0" "$system" in-session
 dpkg_there --purge aerolith
 
 left=$(find "$system" -path "$system/var" -prune -o -type f -print)

@@ -18,7 +18,7 @@ require_tools() {
     PATH=$PATH:/usr/sbin:/sbin:/usr/lib/polkit-1:/lib/systemd
     for tool in qemu-system-x86_64 busybox cpio depmod modprobe apt-get dpkg setpriv hostapd hostapd_cli \
         wpa_supplicant NetworkManager nmcli iw rfkill ip udevadm systemd-udevd dbus-daemon busctl polkitd \
-        dbus-run-session dbus-monitor xvfb-run openbox trayer xdotool; do
+        dbus-run-session dbus-monitor Xvfb openbox trayer xdotool; do
         command -v "$tool" >/dev/null || skip "$tool is not installed"
     done
     [ -e /lib/firmware/regulatory.db ] || skip "wireless-regdb is not installed"

@@ -77,7 +77,7 @@ drive() {
         chmod -R a+rX /run/desktop # like the program's folder
         mkdir -p -m 1777 /tmp/.X11-unix
     fi
-    observe_command "$1" "$2" env DESKTOP_PATIENCE=240 /run/desktop/run.sh "/run/desktop/$3" /run/program "${@:4}"
+    observe_command "$1" "$2" env DESKTOP_PATIENCE=240 /run/desktop/run.sh x11 "/run/desktop/$3" /run/program "${@:4}"
 }
 
 observe_command() {
