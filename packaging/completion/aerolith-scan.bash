@@ -22,7 +22,7 @@ _aerolith_scan()
             COMPREPLY=($(compgen -W 'csv json' -- "$cur"))
             return
             ;;
-        --list)
+        --list | --record)
             _filedir
             return
             ;;
@@ -31,6 +31,6 @@ _aerolith_scan()
             ;;
     esac
     COMPREPLY=($(compgen -W '--simulate --cycles --interval --sort --visible-only --watch --list --details
-        --format --help --version' -- "$cur"))
+        --format --record --help --version' -- "$cur"))
 } &&
     complete -F _aerolith_scan aerolith-scan

@@ -55,6 +55,8 @@ private:
             m_parsed.format = format(option);
         } else if (option == "--list"_L1) {
             m_parsed.listFile = value(option, u"a file"_s);
+        } else if (option == "--record"_L1) {
+            m_parsed.recordFile = recordFile(option);
         } else if (option == "--details"_L1) {
             const QString bssid = value(option, u"a BSSID and a file"_s);
             m_parsed.details.append({.bssid = bssid, .file = value(option, u"a file after the BSSID"_s)});
@@ -79,6 +81,15 @@ private:
             return {};
         }
         return m_left.takeFirst();
+    }
+
+    QString recordFile(const QString& option)
+    {
+        QString file = value(option, u"a file"_s);
+        if (file == "-"_L1 || file.isEmpty()) {
+            fail(u"%1 needs a file, not \"%2\": standard output is for what was heard"_s.arg(option, file));
+        }
+        return file;
     }
 
     int wholeNumber(const QString& option)
@@ -170,11 +181,12 @@ Scans the Wi-Fi networks around the machine and writes what it heard.
   --list FILE           write the list to FILE; the default, on standard output, where nothing else is asked for
   --details BSSID FILE  write the details of one access point to FILE; may be given several times
   --format FORMAT       csv (default) or json
+  --record FILE         write what the radio reported to FILE, as a scenario for --simulate
   --help                show this text
   --version             show the version
 
-FILE may be -, standard output. Log lines go to standard error.
-An interrupt ends --watch with status 0, and so does the end of who reads it.
+FILE may be -, standard output, but for --simulate and --record. Log lines go to standard error.
+An interrupt ends --watch and --record with status 0 and all of FILE; so does a pipe that nobody reads any more.
 Exit status: 0; 1 when the last scan failed or a file cannot be written; 2 for wrong arguments or an unreadable
 scenario; 3 when there is no Wi-Fi interface; 4 when an access point asked for is not known.
 )"_s;

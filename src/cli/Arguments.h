@@ -45,6 +45,8 @@ struct Arguments
     std::optional<QString> listFile;
     QList<Details> details;
     ExportFormat format = ExportFormat::csv;
+    /// Where what the radio reports goes as a scenario, a file; absent: it is not recorded.
+    std::optional<QString> recordFile;
 };
 
 /// Reads the arguments, without the program's name. The error names the argument and what was expected. Of an

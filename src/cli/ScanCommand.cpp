@@ -4,6 +4,7 @@
 #include "export/NetworkCsv.h"
 #include "export/NetworkJson.h"
 #include "platform/qt/FileWriting.h"
+#include "platform/simulated/ScenarioWriter.h"
 
 #include <cerrno>
 #include <cstring>
@@ -22,8 +23,8 @@ ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, 
     , m_complain(std::move(complain))
     , m_onEnd(std::move(onEnd))
     , m_run(
-          surroundings, cycles(), m_arguments.interval, [this] { endCycle(); },
-          [this](RunOutcome outcome) { endRun(outcome); })
+          surroundings.with(wifiClient(), surroundings.locationManager), cycles(), m_arguments.interval,
+          [this] { endCycle(); }, [this](RunOutcome outcome) { endRun(outcome); })
 {
     if (m_arguments.visibleOnly) {
         m_run.scanner().setShowHiddenNetworks(false);
@@ -36,6 +37,14 @@ std::optional<int> ScanCommand::cycles() const
         return m_arguments.cycles;
     }
     return m_arguments.cycles.value_or(1);
+}
+
+CWWiFiClient& ScanCommand::wifiClient()
+{
+    if (!m_arguments.recordFile) {
+        return m_surroundings.wifiClient;
+    }
+    return m_recorder.emplace(m_surroundings.wifiClient);
 }
 
 void ScanCommand::endCycle()
@@ -51,32 +60,47 @@ void ScanCommand::endCycle()
 
 void ScanCommand::endRun(RunOutcome outcome)
 {
-    switch (outcome) {
-    case RunOutcome::completed:
-    case RunOutcome::interrupted:
-        break;
-    case RunOutcome::lastCycleFailed:
+    if (outcome == RunOutcome::lastCycleFailed) {
         trouble(ExitStatus::failed, m_run.scanner().error().value_or(QString()));
-        break;
-    case RunOutcome::noInterface:
+    } else if (outcome == RunOutcome::noInterface) {
         trouble(ExitStatus::noInterface, u"This machine has no Wi-Fi interface"_s);
-        if (m_run.scanner().allNetworks().isEmpty()) {
-            // An empty list would replace an older file with nothing.
-            m_onEnd(m_status);
-            return;
-        }
-        break;
+    }
+    if (m_recorder) {
+        writeRecording();
+    }
+    // Where a run was cut short, an empty list would replace an older file with nothing.
+    const bool wasCutShort = outcome == RunOutcome::noInterface || outcome == RunOutcome::interrupted;
+    if (m_arguments.watch || (wasCutShort && m_run.scanner().allNetworks().isEmpty())) {
+        m_onEnd(m_status);
+        return;
     }
     if (m_arguments.sort) {
         m_run.scanner().setSortOption(*m_arguments.sort);
     }
     // The new order is published on the next turn.
     m_surroundings.mainQueue.async([this] {
-        if (!m_arguments.watch) {
-            writeExports();
-        }
+        writeExports();
         m_onEnd(m_status);
     });
+}
+
+void ScanCommand::writeRecording()
+{
+    const int cycles = m_run.cyclesEnded();
+    if (cycles == 0 && m_status == ExitStatus::success) {
+        trouble(ExitStatus::failed,
+                u"Nothing is recorded in %1: no scan had come to its end"_s.arg(*m_arguments.recordFile));
+        return;
+    }
+    const Scenario scenario =
+        m_recorder->scenario(cycles, m_surroundings.locationManager.authorizationStatus());
+    writeOrComplain(*m_arguments.recordFile, scenarioJson(scenario));
+    if (m_recorder->isFull()) {
+        trouble(ExitStatus::failed, u"%1 has the first %2 of %3 scans: a scenario has room for no more"_s
+                                        .arg(*m_arguments.recordFile)
+                                        .arg(scenario.cycles.size())
+                                        .arg(cycles));
+    }
 }
 
 void ScanCommand::writeExports()
@@ -114,12 +138,17 @@ QByteArray ScanCommand::details(const WiFiNetwork& network) const
                : CSVFile(networkDetailsCSV(network, DateTexts(m_surroundings.locale))).fileWrapper();
 }
 
+void ScanCommand::writeOrComplain(const QString& file, const QByteArray& document)
+{
+    if (const Failure failure = writeFile(file, document)) {
+        trouble(ExitStatus::failed, failure->description);
+    }
+}
+
 void ScanCommand::write(const QString& file, const QByteArray& document)
 {
     if (file != "-"_L1) {
-        if (const Failure failure = writeFile(file, document)) {
-            trouble(ExitStatus::failed, failure->description);
-        }
+        writeOrComplain(file, document);
         return;
     }
     // A CSV text has no line feed at its end; a document that follows it needs one, and so does a terminal.

@@ -5,6 +5,7 @@
 #include "cli/ScanRun.h"
 #include "cli/WatchLines.h"
 #include "platform/Surroundings.h"
+#include "platform/simulated/ScenarioRecorder.h"
 
 #include <QString>
 
@@ -27,12 +28,16 @@ public:
 
 private:
     [[nodiscard]] std::optional<int> cycles() const;
+    /// The radio, with a recorder in between where one is wanted.
+    [[nodiscard]] CWWiFiClient& wifiClient();
     void endCycle();
     void endRun(RunOutcome outcome);
+    void writeRecording();
     void writeExports();
     void writeDetails(const Arguments::Details& asked);
     [[nodiscard]] QByteArray list();
     [[nodiscard]] QByteArray details(const WiFiNetwork& network) const;
+    void writeOrComplain(const QString& file, const QByteArray& document);
     void write(const QString& file, const QByteArray& document);
     /// Whether there is still somebody to write for.
     bool print(const QByteArray& bytes);
@@ -47,6 +52,7 @@ private:
     ExitStatus m_status = ExitStatus::success;
     bool m_outputUsed = false;
     WatchLines m_watchLines;
+    std::optional<ScenarioRecorder> m_recorder;
     ScanRun m_run;
 };
 

@@ -5,22 +5,6 @@
 
 namespace aerolith {
 
-namespace {
-
-Surroundings withLocationManager(Surroundings surroundings, CLLocationManager& manager)
-{
-    return {.wifiClient = surroundings.wifiClient,
-            .locationManager = manager,
-            .userDefaults = surroundings.userDefaults,
-            .mainQueue = surroundings.mainQueue,
-            .makeSerialQueue = std::move(surroundings.makeSerialQueue),
-            .clock = surroundings.clock,
-            .log = surroundings.log,
-            .locale = std::move(surroundings.locale)};
-}
-
-} // namespace
-
 ScanRun::ScanRun(const Surroundings& surroundings, std::optional<int> cycles, std::optional<double> interval,
                  std::function<void()> onCycle, std::function<void(RunOutcome)> onEnd)
     : m_surroundings(surroundings)
@@ -31,7 +15,7 @@ ScanRun::ScanRun(const Surroundings& surroundings, std::optional<int> cycles, st
                             }
                         })
     , m_selection(surroundings.mainQueue)
-    , m_scanner(m_selection, withLocationManager(surroundings, m_locationManager))
+    , m_scanner(m_selection, surroundings.with(surroundings.wifiClient, m_locationManager))
     , m_cycles(cycles)
     , m_interval(interval.value_or(m_scanner.scanInterval()))
     , m_onCycle(std::move(onCycle))

@@ -32,7 +32,7 @@ int scan(const Arguments& arguments)
     std::optional<ScanCommand> command;
     // First of all: who starts the program may end it as soon as it shows a sign of life.
     std::optional<TerminationSignals> terminationSignals;
-    if (arguments.watch) {
+    if (arguments.watch || arguments.recordFile) {
         terminationSignals.emplace([&command] { command->interrupt(); });
     }
     const auto platform =

@@ -45,6 +45,8 @@ enum class CWPHYMode
 class CodeSet
 {
 public:
+    static constexpr int size = 64;
+
     void insert(int code)
     {
         if (isCode(code)) {
@@ -63,9 +65,9 @@ public:
     friend bool operator==(const CodeSet&, const CodeSet&) = default;
 
 private:
-    static bool isCode(int code) { return code >= 0 && code < 64; }
+    static bool isCode(int code) { return code >= 0 && code < size; }
 
-    std::bitset<64> m_codes;
+    std::bitset<size> m_codes;
 };
 
 /// One access point as one scan heard it: a plain value, the answer to every question about the result.

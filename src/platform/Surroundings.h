@@ -22,6 +22,19 @@ struct Surroundings
     Clock& clock;
     Log& log;
     UserLocale locale;
+
+    /// The same but for these two.
+    [[nodiscard]] Surroundings with(CWWiFiClient& otherClient, CLLocationManager& otherManager) const
+    {
+        return {.wifiClient = otherClient,
+                .locationManager = otherManager,
+                .userDefaults = userDefaults,
+                .mainQueue = mainQueue,
+                .makeSerialQueue = makeSerialQueue,
+                .clock = clock,
+                .log = log,
+                .locale = locale};
+    }
 };
 
 } // namespace aerolith

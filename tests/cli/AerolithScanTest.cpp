@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -186,6 +187,74 @@ TEST_F(AerolithScan, WatchesUntilInterruptedOrNobodyReads)
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output.count('\n'), 1);
     EXPECT_FALSE(outcome.errors.contains("aerolith-scan:")) << outcome.errors.toStdString();
+}
+
+TEST_F(AerolithScan, RecordsWhatReplaysToTheSameRecords)
+{
+    write(u"hostile.json"_s,
+          R"({"interface": {"name": null, "transmitPower": 7, "channels": null}, "cycles": [
+        {"joined": {"ssid": null, "bssid": "02:00:00:00:00:01"}, "networks": [
+            {"bssid": "02:00:00:00:00:01", "ssid": "\",\n\u0000\u001b[2J\u202e</b>&\ufffd\ufdd0", "ibss": true,
+             "rssi": -2147483648, "channel": {"number": -1, "width": 2147483647}, "beaconInterval": 0,
+             "security": [0, 5, 63], "phyModes": [1, 6], "country": ""},
+            {"bssid": "", "ssid": "東京 🐈"}, {"ssid": "no address"}, {"bssid": "02:00:00:00:00:03"},
+            {"bssid": "02:00:00:00:00:04", "ssid": "twice"}, {"bssid": "02:00:00:00:00:04", "ssid": "twice"}]},
+        {"error": "\u2028\"Busy\""},
+        {"networks": []},
+        {"joined": {"ssid": "twice", "bssid": "02:00:00:00:00:04"},
+         "networks": [{"bssid": "02:00:00:00:00:04", "ssid": "twice"}]}]})");
+    write(u"off.json"_s, R"({"interface": {"powerOn": false}, "cycles": [{"networks": [{}]}]})");
+    write(u"none.json"_s, R"({"interface": null, "cycles": [{"networks": []}]})");
+    const QString samples = QStringLiteral(SAMPLE_SCENARIOS);
+    const QString scenarios[] = {u"=hostile.json"_s,
+                                 u"=off.json"_s,
+                                 u"=none.json"_s,
+                                 u""_s,
+                                 u"="_s + samples + u"/moving-away.json"_s,
+                                 u"="_s + samples + u"/denied-access.json"_s,
+                                 u"="_s + samples + u"/failing-scans.json"_s};
+    const auto withoutTimes = [](const QByteArray& output) {
+        return QString::fromUtf8(output).remove(QRegularExpression(u"\"timestamp\":\"[^\"]*\""_s));
+    };
+    for (const QString& scenario : scenarios) {
+        const QString watch = u" --watch --cycles 4 --interval 0 --simulate"_s;
+        const Outcome original = run(u"--record recorded.json"_s + watch + scenario);
+        const Outcome replayed = run(u"--record again.json"_s + watch + u"=recorded.json"_s);
+        EXPECT_EQ(replayed.status, original.status) << scenario.toStdString();
+        EXPECT_EQ(withoutTimes(replayed.output), withoutTimes(original.output)) << scenario.toStdString();
+        EXPECT_EQ(read(u"again.json"_s), read(u"recorded.json"_s)) << scenario.toStdString();
+        EXPECT_EQ(replayed.errors.contains("Location access granted"),
+                  original.errors.contains("Location access granted"));
+    }
+}
+
+TEST_F(AerolithScan, RecordsTheScansThatHadEndedBeforeASignal)
+{
+    write(u"air.json"_s, QByteArray(twoCycles).replace(R"({"cycles")", R"({"scanSeconds": 0.1, "cycles")"));
+    for (const QString& mode : {u"--watch"_s, u"--cycles 9 --list list.csv"_s}) {
+        QProcess process;
+        start(process, mode + u" --interval 0.1 --simulate air.json --record recorded.json"_s);
+        process.setReadChannel(QProcess::StandardError);
+        QByteArray log;
+        while (log.count("Network scan completed") < 2 && process.waitForReadyRead()) {
+            log += process.readAll();
+        }
+        kill(static_cast<pid_t>(process.processId()), SIGTERM);
+        EXPECT_EQ(end(process).status, 0) << mode.toStdString();
+        const QJsonArray cycles =
+            QJsonDocument::fromJson(read(u"recorded.json"_s)).object()[u"cycles"_s].toArray();
+        EXPECT_GE(cycles.size(), 1) << mode.toStdString();
+        for (const QJsonValue& cycle : cycles) {
+            EXPECT_FALSE(cycle.toObject().contains(u"error"_s))
+                << "the scan that was cut short is no part of it";
+        }
+    }
+    EXPECT_TRUE(read(u"list.csv"_s).startsWith(header));
+
+    const Outcome refused = run(u"--simulate air.json --record nowhere/a.json"_s);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.errors.contains("aerolith-scan: Cannot write nowhere/a.json: "));
+    EXPECT_TRUE(refused.output.startsWith(header)) << "the list is still written";
 }
 
 TEST_F(AerolithScan, WritesFilesWholeOrNotAtAll)

@@ -64,6 +64,7 @@ TEST(Arguments, SayWhatWasExpected)
          u"--watch writes JSON lines as it scans, it does not go with --details"_s},
         {u"--watch --format json"_s,
          u"--watch writes JSON lines as it scans, it does not go with --format"_s},
+        {u"--record -"_s, u"--record needs a file, not \"-\": standard output is for what was heard"_s},
         {u"list.csv"_s, u"Unknown argument \"list.csv\" (try --help)"_s},
     };
     for (const auto& [line, description] : cases) {

@@ -13,6 +13,9 @@
 
 namespace aerolith {
 
+/// The longest text of a scenario: 64 MiB.
+inline constexpr qsizetype mostScenarioBytes = qsizetype{64} << 20;
+
 /// The network that the machine is joined to. Both absent is as good as not joined.
 struct ScenarioAssociation
 {

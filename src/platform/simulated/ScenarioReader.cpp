@@ -2,6 +2,7 @@
 
 #include "platform/simulated/JsonRead.h"
 #include "platform/simulated/RepeatedKey.h"
+#include "platform/simulated/ScenarioNames.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -21,7 +22,6 @@ namespace {
 constexpr qint64 mostCodeInSet = 63;
 constexpr double mostScanSeconds = 24.0 * 60 * 60;
 constexpr qsizetype mebibyte = 1 << 20;
-constexpr qsizetype mostBytes = 64 * mebibyte;
 
 } // namespace
 
@@ -58,24 +58,12 @@ static void read(const JsonPlace& place, CodeSet& target)
 
 static void read(const JsonPlace& place, CLAuthorizationStatus& target)
 {
-    using enum CLAuthorizationStatus;
-    static constexpr std::array choices{
-        std::pair{"notDetermined"_L1, notDetermined},
-        std::pair{"restricted"_L1, restricted},
-        std::pair{"denied"_L1, denied},
-        std::pair{"authorizedAlways"_L1, authorizedAlways},
-        std::pair{"authorized"_L1, authorizedWhenInUse},
-    };
-    readChoice(place, target, choices);
+    readChoice(place, target, authorizationNames);
 }
 
 static void read(const JsonPlace& place, AfterLast& target)
 {
-    static constexpr std::array choices{
-        std::pair{"repeat"_L1, AfterLast::repeat},
-        std::pair{"loop"_L1, AfterLast::loop},
-    };
-    readChoice(place, target, choices);
+    readChoice(place, target, afterLastNames);
 }
 
 static void read(const JsonPlace& place, CWChannel& target)
@@ -181,12 +169,12 @@ static Error errorAt(const QByteArray& text, qsizetype offset, const QString& co
 
 static Error tooLong()
 {
-    return Error{u"expected at most %1 MiB, found more"_s.arg(mostBytes / mebibyte)};
+    return Error{u"expected at most %1 MiB, found more"_s.arg(mostScenarioBytes / mebibyte)};
 }
 
 Result<Scenario> parseScenario(const QByteArray& json)
 {
-    if (json.size() > mostBytes) {
+    if (json.size() > mostScenarioBytes) {
         return tooLong();
     }
     QJsonParseError syntaxError;
@@ -219,8 +207,8 @@ static Result<QByteArray> contents(const QString& path)
         return Error{file.errorString()};
     }
     QByteArray bytes;
-    while (bytes.size() <= mostBytes) {
-        const QByteArray chunk = file.read(mostBytes + 1 - bytes.size());
+    while (bytes.size() <= mostScenarioBytes) {
+        const QByteArray chunk = file.read(mostScenarioBytes + 1 - bytes.size());
         if (chunk.isEmpty()) {
             break;
         }
