@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Undumpable.h"
+
 #include <QString>
 
 #include <cstring>
@@ -19,7 +21,7 @@ inline void wipe(QString& text)
 }
 
 /// A password of the program's own keeping: a copy in storage of its own, overwritten when it goes. Copies of
-/// text() share that storage, so that they go with it.
+/// text() share that storage, so that they go with it. Until then there is no core dump.
 class Secret
 {
 public:
@@ -33,6 +35,7 @@ public:
     [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
+    Undumpable m_undumpable;
     QString m_text;
 };
 

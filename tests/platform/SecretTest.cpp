@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/prctl.h>
+
 namespace aerolith {
 namespace {
 
@@ -23,6 +25,20 @@ TEST(Secret, IsOverwrittenWhereverItIsShared)
     wipe(literal);
     EXPECT_TRUE(literal.isEmpty());
     EXPECT_EQ(u"literal"_s, "literal"_L1);
+}
+
+TEST(Secret, KeepsTheProcessOutOfCoreDumps)
+{
+    ASSERT_EQ(prctl(PR_GET_DUMPABLE), 1);
+    {
+        const Secret first(u"first"_s);
+        {
+            const Secret second(u"second"_s);
+            EXPECT_EQ(prctl(PR_GET_DUMPABLE), 0);
+        }
+        EXPECT_EQ(prctl(PR_GET_DUMPABLE), 0) << "one is left";
+    }
+    EXPECT_EQ(prctl(PR_GET_DUMPABLE), 1);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include "platform/qt/FileWriting.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <cctype>
@@ -37,6 +39,7 @@ bool isForeign(const QByteArray& line)
 
 SettingsFile::SettingsFile(QString path, Log& log) : m_path(std::move(path)), m_log(log)
 {
+    makePrivate();
     const Cleaning cleaning = removeForeignValues();
     if (cleaning != Cleaning::unnecessary) {
         m_log.line(malformed());
@@ -111,6 +114,24 @@ void SettingsFile::store(const QString& key, const QVariant& value)
     m_failureLogged = failed;
 }
 
+void SettingsFile::makePrivate() const
+{
+    constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                          QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    const QFileInfo info(m_path);
+    if (info.isFile() && (info.permissions() & others) != 0) {
+        QFile::setPermissions(m_path, info.permissions() & ~others);
+    }
+}
+
+void SettingsFile::makeFile() const
+{
+    // Qt narrows the permissions of a file of its own making only once it is written.
+    if (QDir().mkpath(QFileInfo(m_path).path())) {
+        QFile(m_path).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
 SettingsFile::Cleaning SettingsFile::removeForeignValues() const
 {
     QFile file(m_path);
@@ -126,6 +147,8 @@ SettingsFile::Cleaning SettingsFile::removeForeignValues() const
 
 QSettings::Status SettingsFile::save() const
 {
+    makeFile();
+    makePrivate();
     if (removeForeignValues() == Cleaning::failed) {
         return QSettings::AccessError;
     }

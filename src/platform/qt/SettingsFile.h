@@ -12,7 +12,8 @@
 namespace aerolith {
 
 /// The user defaults in an INI file in the format of Qt's settings class. The file is read once and written,
-/// as a whole and in one step, at every change. What could not be written is tried again with the next
+/// as a whole and in one step, at every change; it is the user's alone, for the hidden list tells where they
+/// have been. What could not be written is tried again with the next
 /// change; an outage is logged once.
 class SettingsFile : public UserDefaults
 {
@@ -44,6 +45,10 @@ private:
 
     [[nodiscard]] QVariant stored(const QString& key) const;
     void store(const QString& key, const QVariant& value);
+    /// Takes the file from everybody but its owner.
+    void makePrivate() const;
+    /// Makes an empty one of its owner's alone where there is none.
+    void makeFile() const;
     /// Takes the lines out of the file that Qt must not read.
     [[nodiscard]] Cleaning removeForeignValues() const;
     /// Writes what is not in the file yet.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Secret.h"
+#include "platform/Undumpable.h"
 #include "ui/common/Spinner.h"
 #include "ui/menubar/Alert.h"
 
@@ -30,6 +31,8 @@ public:
 private:
     void wait();
 
+    /// For what is typed.
+    Undumpable m_undumpable;
     QLineEdit* m_field;
     Spinner* m_spinner;
     QEventLoop m_answer;

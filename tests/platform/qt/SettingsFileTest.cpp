@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <sys/stat.h>
 
 using namespace aerolith;
 using namespace Qt::StringLiterals;
@@ -84,6 +85,25 @@ TEST_F(SettingsFileTest, CountsNonsenseAsAbsentAndStaysUsable)
         settings.setDouble(7, u"scanInterval"_s);
         EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 7.0);
     }
+}
+
+TEST_F(SettingsFileTest, IsItsOwnersAlone)
+{
+    const mode_t usual = umask(0);
+    SettingsFile settings(m_path, m_log);
+    settings.setData("[\"aa:bb\"]", u"hiddenBSSIDs"_s);
+    umask(usual);
+    constexpr auto owners = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFile::permissions(m_path), owners);
+
+    const auto open = owners | QFile::ReadGroup | QFile::ReadOther;
+    ASSERT_TRUE(QFile::setPermissions(m_path, open));
+    settings.setDouble(7, u"scanInterval"_s);
+    EXPECT_EQ(QFile::permissions(m_path), owners) << "at the next change";
+    ASSERT_TRUE(QFile::setPermissions(m_path, open));
+    const SettingsFile restarted(m_path, m_log);
+    EXPECT_EQ(QFile::permissions(m_path), owners) << "at the next start";
+    EXPECT_EQ(restarted.dataForKey(u"hiddenBSSIDs"_s), QByteArray("[\"aa:bb\"]"));
 }
 
 TEST_F(SettingsFileTest, KeepsQtFromValuesThatTheProgramDoesNotStore)
