@@ -186,7 +186,8 @@ Scans the Wi-Fi networks around the machine and writes what it heard.
   --version             show the version
 
 FILE may be -, standard output, but for --simulate and --record. Log lines go to standard error.
-An interrupt ends --watch and --record with status 0 and all of FILE; so does a pipe that nobody reads any more.
+An interrupt ends --watch and --record with status 0 and all of FILE, or with 1 where no scan to record had ended;
+so does a pipe that nobody reads any more.
 Exit status: 0; 1 when the last scan failed or a file cannot be written; 2 for wrong arguments or an unreadable
 scenario; 3 when there is no Wi-Fi interface; 4 when an access point asked for is not known.
 )"_s;
