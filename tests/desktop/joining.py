@@ -26,6 +26,13 @@ def profiles():
     return sorted(line.removesuffix(":802-11-wireless") for line in listed if line.endswith(":802-11-wireless"))
 
 
+def in_use(state):
+    """The names of the Wi-Fi networks whose connection is in that state."""
+    listed = network_manager("--fields", "NAME,TYPE,STATE", "connection", "show", "--active").splitlines()
+    end = f":802-11-wireless:{state}"
+    return [line.removesuffix(end) for line in listed if line.endswith(end)]
+
+
 def begin(application, results):
     application.find("label", REFUSED)
     print("ok: the window says that access is missing")
@@ -44,20 +51,18 @@ def refuse_wrong_password(popover, ssid, password):
 def join(application, popover, ssid, password):
     for _ in range(TRIES):
         told = popover.connect(ssid, password)
-        if told is None:
+        # The row is marked as soon as the radio has joined; an address may still be missing.
+        wait_for("NetworkManager to be done", lambda: not in_use("activating"))
+        if told is None and in_use("activated") == [ssid]:
             break
+        told = told or popover.failure()
         print(f"note: {ssid}: {told!r}")
+        popover.open()
     check(f"joining {ssid}", told, None)
     first = popover.rows()[0].name
     check("the popover's first row", first.startswith(JOINED.format(ssid)), True)
     main_list = application.find("frame").find("list", "Networks")
     wait_for("the main window's first row", lambda: main_list.children[0].name.endswith(", joined"))
-    check("the network as the system names it", profiles_in_use(), [ssid])
-
-
-def profiles_in_use():
-    listed = network_manager("--fields", "NAME,TYPE", "connection", "show", "--active").splitlines()
-    return [line.removesuffix(":802-11-wireless") for line in listed if line.endswith(":802-11-wireless")]
 
 
 def switch_radio(application, popover):

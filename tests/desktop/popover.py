@@ -79,14 +79,17 @@ class Popover:
         return wait_for(f"the outcome of joining {ssid}", lambda: self.outcome(ssid))[0]
 
     def outcome(self, ssid):
-        dialogs = self.application.all("dialog")
-        for alert in dialogs:
-            if alert.name == "Connection Failed":
-                told = alert.description
-                alert.find("push button", "OK").press()
-                self.application.gone("dialog")
-                return [told]
-        return None if dialogs else self.joined_outcome(ssid)
+        if self.application.all("dialog", "Connection Failed"):
+            return [self.failure()]
+        return None if self.application.all("dialog") else self.joined_outcome(ssid)
+
+    def failure(self):
+        """What the dialog about a failed join says; closes it."""
+        alert = self.application.find("dialog", "Connection Failed")
+        told = alert.description
+        alert.find("push button", "OK").press()
+        self.application.gone("dialog")
+        return told
 
     def joined_outcome(self, ssid):
         """Joined where the list says so; it does at the next scan."""
