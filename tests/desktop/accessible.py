@@ -13,6 +13,9 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = float(os.environ.get("DESKTOP_PATIENCE", "60"))  # seconds; only a failure waits for all of it
 
+# A press is answered when what it does is done: a radio may take its time to switch.
+Atspi.set_timeout(int(PATIENCE * 1000), int(PATIENCE * 1000))
+
 
 class Failure(Exception):
     """What was looked for and not met, with what was there instead."""
