@@ -4,6 +4,7 @@ import contextlib
 import os
 import signal
 import subprocess
+import sys
 import time
 
 import gi
@@ -224,3 +225,11 @@ class Program:
     def log(self):
         with open(self.log_path, encoding="utf-8") as log:
             return log.read()
+
+
+def run(main):
+    """Runs a script's main with the command line's arguments; a failure is its last word and its exit status."""
+    try:
+        main(*sys.argv[1:])
+    except Failure as failure:
+        sys.exit(f"failed: {failure}")

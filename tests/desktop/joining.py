@@ -7,9 +7,8 @@ password before, and switches the radio. What NetworkManager says meanwhile is N
 
 import pathlib
 import subprocess
-import sys
 
-from accessible import Failure, Program, check, key, wait_for
+from accessible import Program, check, key, run, wait_for
 from popover import JOINED, Popover, tray
 
 REFUSED = "Location access is required\nto scan for networks.\n\nPlease enable it\nin System Settings."
@@ -93,7 +92,4 @@ def main(path, password, results, *ssids):
 
 
 if __name__ == "__main__":
-    try:
-        main(*sys.argv[1:])
-    except Failure as failure:
-        sys.exit(f"failed: {failure}")
+    run(main)

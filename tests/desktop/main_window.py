@@ -12,9 +12,8 @@ import json
 import os
 import re
 import shutil
-import sys
 
-from accessible import PATIENCE, Failure, Focus, Program, check, click, key, wait_for
+from accessible import PATIENCE, Failure, Focus, Program, check, click, key, run, wait_for
 
 PANE_ROWS = {
     "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
@@ -221,7 +220,4 @@ def main(path, ssid, results, *arguments):
 
 
 if __name__ == "__main__":
-    try:
-        main(*sys.argv[1:])
-    except Failure as failure:
-        sys.exit(f"failed: {failure}")
+    run(main)

@@ -8,9 +8,8 @@ import contextlib
 import os
 import signal
 import subprocess
-import sys
 
-from accessible import PATIENCE, Failure, Program, check, click, key, wait_for
+from accessible import PATIENCE, Program, check, click, key, run, wait_for
 
 from gi.repository import Atspi
 
@@ -124,7 +123,4 @@ def main(path, results):
 
 
 if __name__ == "__main__":
-    try:
-        main(*sys.argv[1:])
-    except Failure as failure:
-        sys.exit(f"failed: {failure}")
+    run(main)

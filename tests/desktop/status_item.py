@@ -5,9 +5,8 @@ Drives PROGRAM's icon in an X11 tray that begins after the program: closes the m
 popover under the icon by a click, and joins the network SSID, first with a wrong password. RESULTS keeps the log."""
 
 import os
-import sys
 
-from accessible import Failure, Program, check, click, key, wait_for
+from accessible import Program, check, click, key, run, wait_for
 from popover import Popover, tray
 
 
@@ -45,7 +44,4 @@ def main(path, ssid, password, results, *arguments):
 
 
 if __name__ == "__main__":
-    try:
-        main(*sys.argv[1:])
-    except Failure as failure:
-        sys.exit(f"failed: {failure}")
+    run(main)

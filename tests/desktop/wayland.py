@@ -6,9 +6,8 @@ assistive technology can do alone. RESULTS keeps the log and the exported files.
 
 import os
 import shutil
-import sys
 
-from accessible import Failure, Program, check
+from accessible import Program, check, run
 from main_window import MainWindow, export, first_scan, read_details, settings
 
 
@@ -26,7 +25,4 @@ def main(path, ssid, results, *arguments):
 
 
 if __name__ == "__main__":
-    try:
-        main(*sys.argv[1:])
-    except Failure as failure:
-        sys.exit(f"failed: {failure}")
+    run(main)
