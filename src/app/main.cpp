@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
 #include "app/FontConfiguration.h"
+#include "app/LeanStyle.h"
 #include "platform/qt/StandardLog.h"
 #include "platform/qt/TerminationSignals.h"
 #include "plug/PluggedPlatform.h"
@@ -35,6 +36,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
     std::optional<FontConfiguration> fonts(std::in_place);
     const QApplication application(argc, argv);
     displayCheck.reset();
+    QApplication::setStyle(new LeanStyle);
     QApplication::setApplicationName(u"Aerolith"_s);
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
     QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);

@@ -22,9 +22,11 @@ Failure FakeInterface::setPower(bool on)
 
 Failure FakeInterface::associateToNetwork(const CWNetwork& network, const std::optional<QString>& password)
 {
-    const auto copied =
-        password ? std::optional(QString(password->constData(), password->size())) : std::nullopt;
-    m_air.joins.append({.ssidData = network.ssidData, .password = copied});
+    FakeJoin& join = m_air.joins.emplaceBack();
+    join.ssidData = network.ssidData;
+    if (password) {
+        join.password = QString(password->constData(), password->size());
+    }
     if (m_air.duringJoin) {
         m_air.duringJoin();
     }
