@@ -27,7 +27,7 @@ int refuse(const Error& error)
     return wrongArguments;
 }
 
-int run(int argc, char** argv, const PlatformOptions& options)
+int run(int argc, char** argv, const std::optional<Simulation>& simulate)
 {
     const StartupToken token = StartupToken::fromEnvironment();
     // The program takes its own arguments only, none of Qt's.
@@ -44,7 +44,7 @@ int run(int argc, char** argv, const PlatformOptions& options)
     OneInstance instance;
     Failure unclaimed;
     // A simulated run is one of its own, beside a real one and beside other simulated ones.
-    if (!options.simulate) {
+    if (!simulate) {
         const auto role = instance.claim(token);
         if (!role.ok()) {
             unclaimed = role.error();
@@ -54,14 +54,15 @@ int run(int argc, char** argv, const PlatformOptions& options)
         }
     }
 
-    const auto platform = plugPlatform(options);
+    StandardLog log(stdout);
+    const auto platform = plugPlatform(simulate, log);
     if (!platform.ok()) {
         return refuse(platform.error());
     }
     fonts.reset();
     const Surroundings surroundings = platform.value()->surroundings();
     if (unclaimed) {
-        surroundings.log.line(unclaimed->description);
+        log.line(unclaimed->description);
     }
     const TerminationSignals terminationSignals([] { QApplication::exit(0); });
     listPopoversAsWindows();
@@ -98,5 +99,5 @@ int main(int argc, char** argv)
     case CommandLine::Action::run:
         break;
     }
-    return run(argc, argv, {.simulate = commandLine.value().simulate});
+    return run(argc, argv, commandLine.value().simulate);
 }

@@ -15,8 +15,9 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, std::FILE* output,
-                         std::function<void(const QString&)> complain, std::function<void(ExitStatus)> onEnd)
+ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, ProgressLine& progress,
+                         std::FILE* output, std::function<void(const QString&)> complain,
+                         std::function<void(ExitStatus)> onEnd)
     : m_surroundings(surroundings)
     , m_arguments(std::move(arguments))
     , m_output(output)
@@ -29,6 +30,8 @@ ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, 
     if (m_arguments.visibleOnly) {
         m_run.scanner().setShowHiddenNetworks(false);
     }
+    m_sinceStart.start();
+    m_progress.emplace(progress, surroundings.mainQueue, [this] { return this->progress(); });
 }
 
 std::optional<int> ScanCommand::cycles() const
@@ -47,6 +50,16 @@ CWWiFiClient& ScanCommand::wifiClient()
     return m_recorder.emplace(m_surroundings.wifiClient);
 }
 
+QString ScanCommand::progress()
+{
+    const int ended = m_run.cyclesEnded();
+    const QString ofHowMany = cycles() ? u" of %1"_s.arg(*cycles()) : QString();
+    return u"Scans: %1%2; access points: %3; %4 s"_s.arg(ended)
+        .arg(ofHowMany)
+        .arg(m_run.scanner().networks().size())
+        .arg(m_sinceStart.elapsed() / 1000);
+}
+
 void ScanCommand::endCycle()
 {
     // A cycle that failed has a line in the log; the list is still the one of the cycle before.
@@ -60,6 +73,7 @@ void ScanCommand::endCycle()
 
 void ScanCommand::endRun(RunOutcome outcome)
 {
+    m_progress.reset();
     if (outcome == RunOutcome::lastCycleFailed) {
         trouble(ExitStatus::failed, m_run.scanner().error().value_or(QString()));
     } else if (outcome == RunOutcome::noInterface) {
@@ -164,6 +178,9 @@ void ScanCommand::write(const QString& file, const QByteArray& document)
 
 bool ScanCommand::print(const QByteArray& bytes)
 {
+    if (m_progress) {
+        m_progress->makeWay();
+    }
     const auto size = static_cast<std::size_t>(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, m_output) == size && std::fflush(m_output) == 0) {
         return true;

@@ -2,11 +2,14 @@
 
 #include "cli/Arguments.h"
 #include "cli/ExitStatus.h"
+#include "cli/ProgressLine.h"
+#include "cli/RunProgress.h"
 #include "cli/ScanRun.h"
 #include "cli/WatchLines.h"
 #include "platform/Surroundings.h"
 #include "platform/simulated/ScenarioRecorder.h"
 
+#include <QElapsedTimer>
 #include <QString>
 
 #include <cstdio>
@@ -20,8 +23,9 @@ class ScanCommand
 {
 public:
     /// `complain` is given one line for each thing that went wrong; `output` takes what goes to "-".
-    ScanCommand(const Surroundings& surroundings, Arguments arguments, std::FILE* output,
-                std::function<void(const QString&)> complain, std::function<void(ExitStatus)> onEnd);
+    ScanCommand(const Surroundings& surroundings, Arguments arguments, ProgressLine& progress,
+                std::FILE* output, std::function<void(const QString&)> complain,
+                std::function<void(ExitStatus)> onEnd);
 
     /// Ends it as if the cycle that ended last had been the last one, without a complaint.
     void interrupt() { m_run.interrupt(); }
@@ -30,6 +34,8 @@ private:
     [[nodiscard]] std::optional<int> cycles() const;
     /// The radio, with a recorder in between where one is wanted.
     [[nodiscard]] CWWiFiClient& wifiClient();
+    /// For the user who waits.
+    [[nodiscard]] QString progress();
     void endCycle();
     void endRun(RunOutcome outcome);
     void writeRecording();
@@ -54,6 +60,8 @@ private:
     WatchLines m_watchLines;
     std::optional<ScenarioRecorder> m_recorder;
     ScanRun m_run;
+    QElapsedTimer m_sinceStart;
+    std::optional<RunProgress> m_progress;
 };
 
 } // namespace aerolith

@@ -1,7 +1,7 @@
 #include "cli/Arguments.h"
 #include "cli/ExitStatus.h"
+#include "cli/ProgressLine.h"
 #include "cli/ScanCommand.h"
-#include "platform/qt/StandardLog.h"
 #include "platform/qt/TerminationSignals.h"
 #include "plug/PluggedPlatform.h"
 
@@ -35,13 +35,13 @@ int scan(const Arguments& arguments)
     if (arguments.watch || arguments.recordFile) {
         terminationSignals.emplace([&command] { command->interrupt(); });
     }
-    const auto platform =
-        plugPlatform({.simulate = arguments.simulate, .logStream = stderr, .settingsPath = std::nullopt});
+    ProgressLine progress(stderr);
+    const auto platform = plugPlatform(arguments.simulate, progress);
     if (!platform.ok()) {
         return fail(ExitStatus::usage, platform.error().description);
     }
     command.emplace(
-        platform.value()->surroundings(), arguments, stdout,
+        platform.value()->surroundings(), arguments, progress, stdout,
         [](const QString& line) { fail(ExitStatus::failed, line); },
         [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); });
     const int status = QCoreApplication::exec();

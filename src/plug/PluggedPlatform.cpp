@@ -5,7 +5,6 @@
 #include "platform/qt/Locale.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/SettingsFile.h"
-#include "platform/qt/StandardLog.h"
 #include "platform/qt/SystemClock.h"
 #include "platform/qt/WorkQueue.h"
 #include "platform/simulated/Neighbourhood.h"
@@ -25,12 +24,10 @@ template <typename Machine>
 class Plugged : public PluggedPlatform
 {
 public:
-    /// `make` is given the log and the main queue, and returns the machine.
+    /// `make` is given the main queue, and returns the machine.
     template <typename Make>
-    Plugged(const PlatformOptions& options, Make make)
-        : m_log(options.logStream)
-        , m_settings(options.settingsPath.value_or(SettingsFile::userPath()), m_log)
-        , m_machine(make(m_log, m_mainQueue))
+    Plugged(Log& log, Make make)
+        : m_log(log), m_settings(SettingsFile::userPath(), m_log), m_machine(make(m_mainQueue))
     {
     }
 
@@ -56,7 +53,7 @@ public:
     void stopScanning() override { m_machine.stopScanning(); }
 
 private:
-    StandardLog m_log;
+    Log& m_log;
     SettingsFile m_settings;
     SystemClock m_clock;
     QtMainQueue m_mainQueue;
@@ -73,18 +70,18 @@ Result<Scenario> scenarioOf(const Simulation& simulation)
 
 } // namespace
 
-Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const PlatformOptions& options)
+Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const std::optional<Simulation>& simulate, Log& log)
 {
-    if (!options.simulate) {
+    if (!simulate) {
         return {std::make_unique<Plugged<LinuxMachine>>(
-            options, [](Log& log, MainQueue& mainQueue) { return LinuxMachine(log, mainQueue); })};
+            log, [&log](MainQueue& mainQueue) { return LinuxMachine(log, mainQueue); })};
     }
-    const Result<Scenario> scenario = scenarioOf(*options.simulate);
+    const Result<Scenario> scenario = scenarioOf(*simulate);
     if (!scenario.ok()) {
         return scenario.error();
     }
     return {std::make_unique<Plugged<SimulatedRadio>>(
-        options, [&](Log&, MainQueue& mainQueue) { return SimulatedRadio(scenario.value(), mainQueue); })};
+        log, [&](MainQueue& mainQueue) { return SimulatedRadio(scenario.value(), mainQueue); })};
 }
 
 } // namespace aerolith

@@ -5,24 +5,10 @@
 #include "platform/Surroundings.h"
 #include "plug/Simulation.h"
 
-#include <QString>
-
-#include <cstdio>
 #include <memory>
 #include <optional>
 
 namespace aerolith {
-
-/// What a program decides about its surroundings.
-struct PlatformOptions
-{
-    /// Absent: the machine's own Wi-Fi.
-    std::optional<Simulation> simulate = {};
-    /// Where log lines go: stdout or stderr.
-    std::FILE* logStream = stdout;
-    /// The settings file; absent: the user's own.
-    std::optional<QString> settingsPath = {};
-};
 
 /// The platform that a program runs on, and the only place that knows which one it is. Main thread; a
 /// QCoreApplication exists.
@@ -45,8 +31,9 @@ public:
     virtual void stopScanning() = 0;
 };
 
-/// Plugs one platform in. The error, an unreadable scenario, names the file, the place and what was expected
-/// there.
-[[nodiscard]] Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const PlatformOptions& options);
+/// Plugs one platform in: a simulated one, or where that is absent the machine. The log outlives it. The
+/// error, an unreadable scenario, names the file, the place and what was expected there.
+[[nodiscard]] Result<std::unique_ptr<PluggedPlatform>> plugPlatform(const std::optional<Simulation>& simulate,
+                                                                    Log& log);
 
 } // namespace aerolith

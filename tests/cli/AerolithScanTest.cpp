@@ -14,7 +14,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <csignal>
+#include <pty.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -319,4 +322,33 @@ TEST_F(AerolithScan, SurvivesNonsenseInItsSettings)
     const Outcome outcome = run(u"--simulate air.json --visible-only"_s);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, lines({header, quay, attic}));
+}
+
+TEST_F(AerolithScan, TellsATerminalHowFarALongRunIsAndTakesItBack)
+{
+    write(u"air.json"_s, twoCycles);
+    const auto errorsOnATerminal = [this](const QString& arguments) {
+        int controller = -1;
+        int terminal = -1;
+        char name[PATH_MAX] = {};
+        EXPECT_EQ(openpty(&controller, &terminal, name, nullptr, nullptr), 0);
+        QProcess process;
+        process.setStandardErrorFile(QString::fromLocal8Bit(name));
+        start(process, arguments);
+        EXPECT_EQ(end(process).status, 0);
+        QByteArray bytes(1 << 16, Qt::Uninitialized);
+        bytes.resize(
+            std::max<ssize_t>(0, ::read(controller, bytes.data(), static_cast<std::size_t>(bytes.size()))));
+        close(terminal);
+        close(controller);
+        return bytes;
+    };
+    const QByteArray erasure = "\r\033[K";
+    EXPECT_FALSE(errorsOnATerminal(u"--simulate air.json"_s).contains(erasure));
+
+    const QString longRun = u"--simulate air.json --cycles 2 --interval 2.1"_s;
+    const QByteArray errors = errorsOnATerminal(longRun);
+    EXPECT_TRUE(errors.contains("Scans: 1 of 2; access points: 2; 2 s")) << errors.constData();
+    EXPECT_FALSE(errors.mid(errors.lastIndexOf(erasure)).contains("Scans:")) << errors.constData();
+    EXPECT_FALSE(run(longRun).errors.contains(erasure));
 }

@@ -1,5 +1,7 @@
 #include "plug/PluggedPlatform.h"
 
+#include "support/RecordingLog.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -15,7 +17,8 @@ TEST(PluggedPlatform, LeavesTheUsersLoginAloneWhileItSimulates)
     int argc = 0;
     const QCoreApplication application(argc, nullptr);
 
-    const auto platform = plugPlatform({.simulate = Simulation{}});
+    RecordingLog log;
+    const auto platform = plugPlatform(Simulation{}, log);
     ASSERT_TRUE(platform.ok());
     LoginItem& loginItem = platform.value()->desktopServices().loginItem;
     EXPECT_FALSE(loginItem.isEnabled());

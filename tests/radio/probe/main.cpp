@@ -2,6 +2,7 @@
 // may be empty) from standard input and joins. radio-probe power on|off: switches the radio. Ends with 0, or
 // with 1 and the error's description as the last line of standard error.
 
+#include "platform/qt/StandardLog.h"
 #include "plug/PluggedPlatform.h"
 
 #include <QCoreApplication>
@@ -46,7 +47,8 @@ Failure run(CWInterface& interface, const QByteArray& command, const QByteArray&
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    const auto platform = plugPlatform({.logStream = stderr});
+    StandardLog log(stderr);
+    const auto platform = plugPlatform({}, log);
     const auto interface = platform.value()->surroundings().wifiClient.interface();
     if (argc != 3 || interface == nullptr) {
         std::cerr << "two arguments and a Wi-Fi interface are needed\n";
