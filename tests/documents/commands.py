@@ -1,0 +1,108 @@
+#!/usr/bin/python3
+"""commands.py SOURCE BUILD: runs every command that a document of SOURCE shows, with the programs of BUILD, one after
+the other in a folder of the document's own.
+
+A command that takes long, needs the user's radio or changes the machine is run in a form of its own (HOW, SHORTER). A
+command that fails fails the test; so does an entry of HOW that no document shows any more."""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+# What some commands become; None where other tests run them, which are named beside it.
+HOW = {
+    "./run": None,  # its two steps, building and starting: package.build and desktop.*
+    "./test": None,  # this test among the others
+    "cmake --preset dev": "cmake --preset dev -N",
+    "cmake --build --preset dev": "cmake --build --preset dev -- -n",
+    # Within ctest: their lists alone.
+    "ctest --preset dev -L unit": "ctest --preset dev -L unit -N | grep WiFiScanner",
+    "ctest --preset dev -R SettingsFile": "ctest --preset dev -R SettingsFile -N | grep SettingsFile",
+    "cmake --preset bench && cmake --build --preset bench": "cmake --preset bench -N",
+    "cmake --preset fuzz && cmake --build --preset fuzz --target fuzzers": None,  # fuzz.build
+    "tests/radio/run.sh scan build/dev/bin/aerolith-scan build/kernel build/radio 1200": None,  # radio.scan
+    "bench/start": "bench/start build/dev quick",
+    "cmake --preset release -DAEROLITH_UPDATE_FEED=https://updates.example.org/feed.xml -DAEROLITH_UPDATE_KEY=KEY":
+        "cmake --preset release -N",
+}
+
+# What makes the others short, and independent of the machine's radio.
+SHORTER = (
+    (r"^\./run --simulate", "timeout --preserve-status 3 aerolith --simulate"),
+    (r"\baerolith-scan(?! --help)", "aerolith-scan --simulate docs/scenarios/moving-away.json"),
+    (r"0a:1b:2c:3d:4e:5f", "02:5a:30:00:00:04"),  # is in there
+    (r"--interval \d+", "--interval 0"),
+    (r"--watch(?! --cycles)", "--watch --cycles 2"),
+    (r"--cycles (\d+)(?!.*--interval)", r"--cycles \1 --interval 0"),
+    (r"build/bench/bin/(\w+)", r"\1 --benchmark_min_time=0.001"),
+    (r"-runs=\d+", "-runs=1000"),
+    (r"AEROLITH_STRESS_CYCLES=\d+", "AEROLITH_STRESS_CYCLES=100"),
+    # The package of the example.
+    (r"^(packaging/sign-update .* )(\S+\.deb)$", r"echo package >\2 && \1\2"),
+)
+
+
+def commands(document):
+    """The indented lines outside of lists that are no markup, without the remarks behind them."""
+    for line in document.read_text(encoding="utf-8").splitlines():
+        shown = re.match(r"    (?=[\w./])(?!\w+ ─)(.*)", line)
+        if shown:
+            yield re.sub(r"\s+#.*", "", shown[1])
+
+
+def form(command):
+    if command in HOW:
+        return HOW[command]
+    for pattern, replacement in SHORTER:
+        command = re.sub(pattern, replacement, command)
+    return command
+
+
+def folder_like(source, build, path):
+    """A folder in which the repository's paths lead to it, and what is written stays out of it."""
+    for entry in source.iterdir():
+        if entry.name not in (".git", "build"):
+            (path / entry.name).symlink_to(entry)
+    (path / "build").mkdir()
+    for name in (build.name, "fuzz"):
+        (path / "build" / name).symlink_to(source / "build" / name)
+
+
+def run(command, folder, environment):
+    """Whether it has ended well."""
+    print("+", command, flush=True)
+    ended = subprocess.run(["bash", "-o", "pipefail", "-c", command], cwd=folder, env=environment, timeout=120,
+                           stdin=subprocess.DEVNULL, check=False)
+    if ended.returncode != 0:
+        print("ended with", ended.returncode, flush=True)
+    return ended.returncode == 0
+
+
+def main(source, build):
+    listed = subprocess.run(["git", "-C", source, "ls-files", "*.md"], capture_output=True, text=True, check=True)
+    unseen, failed = set(HOW), 0
+    for name in listed.stdout.split():
+        shown = list(commands(source / name))
+        if name == "ARCHITECTURE.md" or not shown:
+            continue
+        print(f"== {name}")
+        with tempfile.TemporaryDirectory() as path:
+            folder = pathlib.Path(path)
+            folder_like(source, build, folder)
+            environment = dict(os.environ, PATH=f"{build / 'bin'}:{os.environ['PATH']}", XDG_CONFIG_HOME=path)
+            for command in shown:
+                unseen.discard(command)
+                what = form(command)
+                # CMake knows its folders by their real names.
+                where = source if re.match("cmake|ctest", command) else folder
+                failed += what is not None and not run(what, where, environment)
+    for command in unseen:
+        print("no document shows", command)
+    return failed + len(unseen)
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])) != 0)
