@@ -16,8 +16,10 @@ namespace {
 
 constexpr auto startLimit = 15s;
 constexpr auto endLimit = 30s;
-// A scan of every channel, with those where it may only listen.
-constexpr auto longestScan = 10s;
+// A scan of every channel, with those where it may only listen; and one of three bands while joined, when the
+// radio goes back to its own channel in between.
+constexpr auto usualScan = 10s;
+constexpr auto longestScan = 20s;
 
 // The question for a name, or its answer, is easily lost on the air.
 constexpr int questions = 2;
@@ -27,16 +29,11 @@ bool asksFor(const ScanEvent& event, const QByteArray& ssid)
     return event.ssids.isEmpty() || event.ssids.contains(ssid);
 }
 
-Result<BootTime> newestScan(ScanService& service, BootTime begun)
+/// The beginning of the newest scan that the service knows of, unless that is too long ago.
+std::optional<BootTime> newestScan(ScanService& service, BootTime begun)
 {
-    if (auto obstacle = service.obstacle()) {
-        return *obstacle;
-    }
     const auto lastScan = service.lastScan();
-    if (lastScan && *lastScan > begun - startLimit) {
-        return *lastScan - longestScan;
-    }
-    return Error{u"The Wi-Fi scan did not end in time"_s};
+    return lastScan && *lastScan > begun - startLimit ? std::optional(*lastScan - usualScan) : std::nullopt;
 }
 
 } // namespace
@@ -49,6 +46,7 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
     const bool isListed = ssid && heard(BootTime::min());
     auto refusal = service.request(isListed ? std::nullopt : ssid);
     const auto requested = Deadline::clock::now();
+    const auto lastDeadline = requested + endLimit;
     auto deadline = requested + startLimit;
     bool startSeen = false;
     int asked = 0;
@@ -58,12 +56,22 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
             return event.error();
         }
         if (!event.value()) {
-            return newestScan(service, begun);
+            if (auto obstacle = service.obstacle()) {
+                return *obstacle;
+            }
+            if (const auto newest = newestScan(service, begun)) {
+                return *newest;
+            }
+            if (deadline == lastDeadline) {
+                return Error{u"The Wi-Fi scan did not end in time"_s};
+            }
+            deadline = lastDeadline; // a long one may be under way, whose start was not seen
+            continue;
         }
         switch (event.value()->stage) {
         case ScanStage::started:
             startSeen = true;
-            deadline = requested + endLimit;
+            deadline = lastDeadline;
             break;
         case ScanStage::finished: {
             const auto since = startSeen ? begun : runningSince;

@@ -22,8 +22,9 @@ using Heard = std::function<bool(nl80211::BootTime since)>;
 /// Somebody else's scan that is under way answers a full scan too; a scan for a name only if it has found
 /// the name. A name that has been heard lately is looked for by a full scan first; then it is asked for until
 /// it has been heard or two scans have asked in vain. A scan that was broken off answers nothing. Where no
-/// scan comes in time, the newest one that the service knows of has to do, unless it is older than those 15
-/// seconds; that, like an obstacle that turns up meanwhile, is an error.
+/// scan begins in time, the newest one that the service knows of has to do, unless it is older than those 15
+/// seconds: then one may be under way, which has until the end of the 30. None by then, like an obstacle that
+/// turns up meanwhile, is an error.
 [[nodiscard]] Result<nl80211::BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events,
                                                   nl80211::BootTime begun,
                                                   const std::optional<QByteArray>& ssid, const Heard& heard);
