@@ -89,7 +89,7 @@ observe_command() {
     (cd "$folder" && as_user timeout -k 5 "$seconds" "$@") >"$out/stdout" 2>"$out/stderr"
     echo $? >"$out/status"
     date +%s.%N >"$out/ended"
-    iw dev wlan0 scan dump >"$out/iw.txt" 2>/dev/null
+    iw dev wlan0 scan dump -u >"$out/iw.txt" 2>/dev/null
     cp -r "$folder/." "$out/"
     say "$name: status $(cat "$out/status"): $(tail -n 1 "$out/stderr")"
 }
@@ -117,18 +117,60 @@ hostapd_asks() { among_radios hostapd_cli -p /run/hostapd -i "$@"; }
 access_point_runs() { hostapd_asks "$1" status | grep -q '^state=ENABLED'; }
 
 # start_access_points: every one of the plan, each radio at its signal strength (which the kernel takes as an
-# unsigned number only).
+# unsigned number only) and with its address.
 start_access_points() {
-    local number
+    local number file files
     for number in $(seq "$RADIOS"); do
         printf %u "${RX_RSSI[$number]}" >"/sys/kernel/debug/ieee80211/phy$number/hwsim/rx_rssi"
     done
-    among_radios hostapd -B -f /run/hostapd.log /out/plan/*.conf ||
+    for number in "${!ADDRESSES[@]}"; do among_radios ip link set "wlan$number" address "${ADDRESSES[$number]}"; done
+    # In the order of their numbers: hostapd listens to its neighbours before it uses 40 MHz.
+    mapfile -t files < <(printf '%s\n' /out/plan/wlan*.conf | sort -V)
+    among_radios hostapd -B -f /run/hostapd.log "${files[@]}" ||
         give_up "hostapd has failed: $(tail -n 5 /run/hostapd.log)"
     say "hostapd has started"
-    for number in $(seq "$RADIOS"); do
-        wait_for 90 access_point_runs "wlan$number" || give_up "wlan$number has no access point"
+    for file in "${files[@]}"; do
+        file=${file##*/}
+        wait_for 90 access_point_runs "${file%.conf}" || give_up "${file%.conf} has no access point"
     done
+    for file in /out/plan/*.cell; do [ ! -e "$file" ] || start_cell "$file"; done
+}
+
+# start_cell FILE: the ad hoc network of a radio of the plan.
+start_cell() {
+    local interface=${1##*/} arguments
+    interface=${interface%.cell}
+    read -ra arguments <"$1"
+    among_radios iw dev "$interface" set type ibss
+    among_radios ip link set "$interface" up
+    among_radios iw dev "$interface" ibss join "${arguments[@]}" || give_up "$interface has no ad hoc network"
+}
+
+# change_access_points STATE: those that the plan has another state of become it.
+change_access_points() {
+    local file interface key value
+    for file in /out/plan/*."$1"; do
+        interface=${file##*/} interface=${interface%.*}
+        hostapd_asks "$interface" disable >/dev/null
+        while IFS='=' read -r key value; do
+            hostapd_asks "$interface" set "$key" "$value" | grep -q OK || say "$interface refuses $key=$value"
+        done <"$file"
+        hostapd_asks "$interface" enable >/dev/null
+    done
+    for file in /out/plan/*."$1"; do
+        interface=${file##*/}
+        wait_for 30 access_point_runs "${interface%.*}"
+    done
+    say "access points changed: $1"
+}
+
+# capture_air SECONDS: what passes meanwhile, in /out/air.pcap.
+capture_air() {
+    ip link set hwsim0 up
+    python3 "$BED/guest/capture.py" "$1" /run/air.pcap
+    ip link set hwsim0 down
+    cp /run/air.pcap /out/
+    say "captured $(stat -c %s /run/air.pcap) bytes"
 }
 
 # serve_addresses: a DHCP server behind every access point, each with a network of its own.
@@ -196,7 +238,7 @@ watch_scans() {
     echo "$EPOCHREALTIME $uptime" >/out/clock
     iw event -t | while read -r event; do
         echo "$event" >>/out/scans.txt
-        case $event in *'scan finished'*) iw dev wlan0 scan dump >"/out/scans/$(scans_ended).txt" ;; esac
+        case $event in *'scan finished'*) iw dev wlan0 scan dump -u >"/out/scans/$(scans_ended).txt" ;; esac
     done &
 }
 

@@ -4,10 +4,12 @@ The fields after `settings` say what the access point is to look like; a judge c
 the program's against them.
 """
 
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 from pathlib import Path
 
-COUNTRY = "PA"  # allows every channel of both bands without radar detection
+import elements
+
+COUNTRY = "PA"  # allows every channel of 2.4 and 5 GHz without radar detection
 
 
 @dataclass(frozen=True)
@@ -16,6 +18,11 @@ class AccessPoint:
     settings: str = ""  # hostapd's, separated by semicolons
     security: str = "None"
     hidden: bool = False
+    elements: bytes = b""  # what its frames have besides
+    carried: tuple[int, bytes] | None = None  # has no frames: capability and elements in those of its radio's first
+    width: int | None = None  # these: unlike its radio
+    phy_modes: str | None = None
+    country: str | None = None
 
 
 @dataclass(frozen=True)
@@ -29,6 +36,9 @@ class Radio:
     country: str | None = None
     beacon_interval: int = 100
     role: str | None = None  # the scenario's name for the radio
+    address: str | None = None  # instead of its own
+    cell: str | None = None  # frequency and width of an ad hoc network; its settings are iw's then
+    becomes: "Radio | None" = None  # what it is changed into while the scenario runs
 
 
 def bssid(radio_number: int, place: int) -> str:
@@ -39,26 +49,43 @@ def bssid(radio_number: int, place: int) -> str:
 @dataclass(frozen=True)
 class Plan:
     radios: tuple[Radio, ...]
+    country: str = COUNTRY
 
     def every_access_point(self):
         """Yields (bssid, radio, access point)."""
         for number, radio in enumerate(self.radios, 1):
             for place, access_point in enumerate(radio.access_points):
-                yield bssid(number, place), radio, access_point
+                yield radio.address or bssid(number, place), radio, access_point
 
     def radio_of_role(self, role: str) -> tuple[int, Radio]:
         return next((number, radio) for number, radio in enumerate(self.radios, 1) if radio.role == role)
 
+    def changed(self) -> "Plan":
+        return replace(self, radios=tuple(radio.becomes or radio for radio in self.radios))
+
     def write(self, folder: Path) -> None:
-        """One hostapd configuration a radio (wlan1.conf, ...), and plan.sh: what the guest's scripts need to know."""
+        """One hostapd configuration a radio (wlan1.conf, ...), or the arguments that make its ad hoc network
+        (wlan1.cell); what changes it to the other state and back (wlan1.changed, wlan1.made); and plan.sh: what the
+        guest's scripts need to know."""
         for number, radio in enumerate(self.radios, 1):
+            if radio.cell is not None:
+                (folder / f"wlan{number}.cell").write_text(
+                    f"{radio.access_points[0].ssid.decode()} {radio.cell} fixed-freq {bssid(number, 0)} "
+                    f"beacon-interval {radio.beacon_interval} {radio.settings}\n")
+                continue
             (folder / f"wlan{number}.conf").write_text(configuration(number, radio))
+            if radio.becomes:
+                (folder / f"wlan{number}.changed").write_text("\n".join(state(radio.becomes)) + "\n")
+                (folder / f"wlan{number}.made").write_text("\n".join(state(radio)) + "\n")
         (folder / "plan.sh").write_text(self._for_guest())
 
     def _for_guest(self) -> str:
         rssi = " ".join(f"[{number}]={radio.rx_rssi}" for number, radio in enumerate(self.radios, 1))
-        bssids = " ".join(address for address, _, made in self.every_access_point() if not made.hidden)
-        lines = [f"RADIOS={len(self.radios)}", f"RX_RSSI=({rssi})", f"COUNTRY={COUNTRY}", f"BSSIDS='{bssids}'"]
+        addresses = " ".join(f"[{number}]={radio.address}" for number, radio in enumerate(self.radios, 1)
+                             if radio.address)
+        bssids = {address: None for address, _, made in self.every_access_point() if not made.hidden}
+        lines = [f"RADIOS={len(self.radios)}", f"RX_RSSI=({rssi})", f"ADDRESSES=({addresses})",
+                 f"COUNTRY={self.country}", f"BSSIDS='{' '.join(bssids)}'"]
         for number, radio in enumerate(self.radios, 1):
             if radio.role:
                 lines += [f"{radio.role.upper()}_INTERFACE=wlan{number}",
@@ -70,11 +97,26 @@ def for_shell(name: bytes) -> str:
     return "$'" + "".join(f"\\x{byte:02x}" for byte in name) + "'"
 
 
+def state(radio: Radio) -> list[str]:
+    """What makes the radio and its first access point, as hostapd is told of it at its start or while it runs."""
+    return [f"channel={radio.channel}", f"beacon_int={radio.beacon_interval}", *split(radio.settings),
+            *split(radio.access_points[0].settings)]
+
+
+def split(settings: str) -> list[str]:
+    return settings.split(";") if settings else []
+
+
 def configuration(number: int, radio: Radio) -> str:
-    lines = [f"interface=wlan{number}", "driver=nl80211", "ctrl_interface=/run/hostapd",
-             f"channel={radio.channel}", f"beacon_int={radio.beacon_interval}", *radio.settings.split(";")]
+    lines = [f"interface=wlan{number}", "driver=nl80211", "ctrl_interface=/run/hostapd", *state(radio)]
+    carried = [(made.ssid, *made.carried) for made in radio.access_points if made.carried]
     for place, access_point in enumerate(radio.access_points):
+        if access_point.carried:
+            continue
         if place > 0:
-            lines += [f"bss=wlan{number}b{place}", f"bssid={bssid(number, place)}"]
-        lines += [f"ssid2={access_point.ssid.hex()}", *access_point.settings.split(";")]
+            lines += [f"bss=wlan{number}b{place}", f"bssid={bssid(number, place)}", *split(access_point.settings)]
+        lines.append(f"ssid2={access_point.ssid.hex()}")
+        besides = access_point.elements + (elements.multiple_bssid(carried) if carried and place == 0 else b"")
+        if besides:
+            lines.append(f"vendor_elements={besides.hex()}")
     return "\n".join(lines) + "\n"

@@ -1,87 +1,52 @@
-"""Reads what `iw dev X scan dump` prints: a second, independent opinion on the bytes the kernel holds."""
+"""Reads what `iw dev X scan dump -u` prints: a second, independent opinion on the bytes the kernel holds."""
 
 import re
 from dataclasses import dataclass, field
 
-DSSS_RATES = {1.0, 2.0, 5.5, 11.0}
-OFDM_RATES = {6.0, 9.0, 12.0, 18.0, 24.0, 36.0, 48.0, 54.0}
+from heard import Heard
+
+# iw 5.19 knows these by their numbers only.
+HE_OPERATION, EHT_OPERATION, EHT_CAPABILITIES = (f"Unknown Extension ID ({number})" for number in (36, 106, 108))
 
 
 @dataclass
-class Entry:
-    """One entry of the kernel's list; the properties are what the program is expected to say of it."""
+class Entry(Heard):
+    """One entry of the kernel's list."""
 
-    bssid: str
-    associated: bool
-    frequency: int = 0  # MHz
-    beacon_interval: int = 0
-    capabilities: set[str] = field(default_factory=set)
+    associated: bool = False
     signal: float = 0.0  # dBm
     heard: float = 0.0  # when it was last heard, in seconds since boot
-    ssid: bytes = b""
-    country: str | None = None
-    rates: set[float] = field(default_factory=set)  # Mbit/s
     sections: dict[str, list[str]] = field(default_factory=dict)  # title to the lines below it
 
-    @property
-    def is_named(self) -> bool:
-        return bool(self.ssid.strip(b"\0")) and self.ssid != b"Unknown"
+    def read_sections(self) -> None:
+        """Takes the facts out of the sections, once all their lines are there."""
+        self.ht, self.vht, self.he = (f"{mode} capabilities" in self.sections for mode in ("HT", "VHT", "HE"))
+        self.eht = EHT_CAPABILITIES in self.sections
+        self.rsn, self.wpa = self._suites("RSN"), self._suites("WPA")
+        self.ht_wide = (self._text("HT operation", "secondary channel offset") in ("above", "below")
+                        and self._text("HT operation", "STA channel width") == "any")
+        self.vht_operation = (self._number("VHT operation", "channel width"),
+                              self._number("VHT operation", "center freq segment 2"))
+        self._read_he_operation(self._unread(HE_OPERATION))
+        eht = self._unread(EHT_OPERATION)
+        if eht and eht[0] & 1:  # a parameter byte, four of rates, then the width where the first says so
+            self.eht_width = eht[5] & 7
 
-    @property
-    def ssid_text(self) -> str:
-        return self.ssid.decode("utf-8", "replace")
+    def _read_he_operation(self, body: bytes) -> None:
+        """Three bytes of parameters, one of colour, two of rates; then what the parameters announce."""
+        parameters = int.from_bytes(body[:3], "little")
+        at = 6
+        if parameters & 1 << 14:
+            if "VHT operation" not in self.sections:
+                self.vht_operation = (body[at], body[at + 2])
+            at += 3
+        at += bool(parameters & 1 << 15)
+        if parameters & 1 << 17:
+            self.ghz6_width = body[at + 1] & 3
 
-    @property
-    def channel(self) -> int:
-        if self.frequency == 2484:
-            return 14
-        return (self.frequency - (2407 if self.frequency < 3000 else 5000)) // 5
-
-    @property
-    def band(self) -> str:
-        if 1 <= self.channel <= 14:
-            return "2.4 GHz"
-        return "5 GHz" if 36 <= self.channel <= 177 else "Unknown"
-
-    @property
-    def width(self) -> int:
-        """MHz, from the VHT operation element where it says more than 40, else from the HT operation element."""
-        code = self._number("VHT operation", "channel width")
-        second = self._number("VHT operation", "center freq segment 2")
-        if code == 1:
-            return 80 if second == 0 else 160  # a second segment: 160 MHz, or two separate halves of it
-        if code in (2, 3):
-            return 160
-        offset = self._text("HT operation", "secondary channel offset")
-        any_width = self._text("HT operation", "STA channel width") == "any"
-        return 40 if offset in ("above", "below") and any_width else 20
-
-    @property
-    def security(self) -> str:
-        rsn, wpa = self._suites("RSN"), self._suites("WPA")
-        names = {
-            "WEP": "Privacy" in self.capabilities and "RSN" not in self.sections and "WPA" not in self.sections,
-            "WPA": "PSK" in wpa,
-            "WPA Mixed": "PSK" in wpa and "PSK" in rsn,
-            "WPA2": "PSK" in rsn,
-            "Enterprise": "802.1X" in rsn | wpa,
-            "Personal": bool({"PSK", "SAE"} & (rsn | wpa)),
-            "WPA3": "SAE" in rsn,
-        }
-        return ", ".join(name for name, holds in names.items() if holds) or "None"
-
-    @property
-    def phy_modes(self) -> list[str]:
-        low_band = self.frequency < 3000
-        modes = {
-            "a": not low_band and bool(self.rates & OFDM_RATES),
-            "b": low_band and bool(self.rates & DSSS_RATES),
-            "g": low_band and bool(self.rates & OFDM_RATES),
-            "n": "HT capabilities" in self.sections,
-            "ac": "VHT capabilities" in self.sections,
-            "ax": "HE capabilities" in self.sections,
-        }
-        return [f"802.11{mode}" for mode, holds in modes.items() if holds]
+    def _unread(self, title: str) -> bytes:
+        """The bytes of an element that iw does not know."""
+        return bytes.fromhex(self.sections.get(title, [""])[0])
 
     def _text(self, section: str, name: str) -> str | None:
         for line in self.sections.get(section, []):
@@ -93,10 +58,14 @@ class Entry:
     def _number(self, section: str, name: str) -> int:
         return int((self._text(section, name) or "0").split()[0])
 
-    def _suites(self, section: str) -> set[str]:
+    def _suites(self, section: str) -> set[str] | None:
         """The families among a security element's authentication suites; FT and the hash make no difference."""
+        if section not in self.sections:
+            return None
         text = (self._text(section, "Authentication suites") or "").replace("IEEE 802.1X", "802.1X")
         parts = {part for suite in text.split() for part in suite.split("/")}
+        if "FILS" in parts:
+            parts.add("802.1X")  # a faster way to the same end
         return parts & {"PSK", "SAE", "802.1X", "OWE"}
 
 
@@ -116,7 +85,7 @@ def read_line(entry: Entry, line: str) -> None:
     elif title == "beacon interval":
         entry.beacon_interval = int(value.split()[0])
     elif title == "capability":
-        entry.capabilities = set(value.split())
+        entry.privacy, entry.ibss = "Privacy" in value.split(), "IBSS" in value.split()
     elif title == "signal":
         entry.signal = float(value.split()[0])
     elif title == "last seen" and value.endswith("[boottime]"):
@@ -128,6 +97,8 @@ def read_line(entry: Entry, line: str) -> None:
     elif title in ("Supported rates", "Extended supported rates"):
         entry.rates |= {float(rate.rstrip("*")) for rate in value.split() if re.fullmatch(r"[\d.]+\*?", rate)}
     else:
+        while title in entry.sections:
+            title += " (again)"  # of several alike the first counts
         entry.sections[title] = [value]
 
 
@@ -136,17 +107,20 @@ def parse(text: str) -> list[Entry]:
     entries: list[Entry] = []
     for line in text.split("\n"):
         if start := re.match(r"BSS ([0-9a-f:]{17})\(on \w+\)(.*)", line):
-            entries.append(Entry(start[1], "associated" in start[2]))
+            entries.append(Entry(start[1], associated="associated" in start[2] or "joined" in start[2]))
         elif line.startswith("\t\t") and entries and entries[-1].sections:
             list(entries[-1].sections.values())[-1].append(line.strip())
         elif line.startswith("\t") and entries:
             read_line(entries[-1], line[1:])
+    for entry in entries:
+        entry.read_sections()
     return entries
 
 
-def newest_of_each(entries: list[Entry]) -> dict[str, Entry]:
-    """By address. An access point has two entries where it has been heard with and without its name."""
-    newest: dict[str, Entry] = {}
-    for entry in sorted(entries, key=lambda e: e.heard):
-        newest[entry.bssid] = entry
-    return newest
+def sightings(entries: list[Entry], since: float = 0.0) -> dict[str, Entry]:
+    """By address, of what was heard since then (in seconds since boot): an access point has two entries where it has
+    been heard with and without its name, or on two channels. The one with a name counts, else the newest."""
+    found: dict[str, Entry] = {}
+    for entry in sorted(entries, key=lambda e: (e.heard >= since, bool(e.ssid.strip(b"\0")), e.heard)):
+        found[entry.bssid] = entry
+    return found

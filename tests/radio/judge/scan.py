@@ -1,19 +1,30 @@
 """Judges what scenarios/scan.sh has left: run with the results folder; exit status 1 when there is a fault."""
 
+import json
 import re
 import sys
-from datetime import datetime
 from pathlib import Path
 
+import air
 import iw_dump
+from access_points import Radio
 from access_points import bssid as bssid_of
-from compare import NOISE, compare, print_table
-from plans import SCAN
-from scans import Scans
-from steps import Faults, Step
+from compare import NOISE, OF_FRAMES, OF_RECEIVER, Opinion, Rule, compare_lists, print_differences, print_list
+from compare import print_opinions
+from every_kind import SCAN
+from scans import TOLERANCE, Scans
+from steps import Faults, Step, unix_time
 
 MISSED = -100  # dBm; a sample of a cycle in which the access point was not heard
-TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
+NO_COUNTRY = "00"
+
+OF_ANY = (
+    Rule("countryCode", lambda ours, theirs, _: ours is None and theirs == NO_COUNTRY,
+         "a country element whose code is no two letters names no country"),
+)
+OF_TSHARK = OF_ANY + (
+    Rule("channelWidth", lambda ours, theirs, heard: heard.eht, "tshark does not decode the EHT operation element"),
+)
 
 # Step: exit status, and what its message has to speak of.
 REFUSALS = {
@@ -23,10 +34,6 @@ REFUSALS = {
     "unanswered": (1, r"permi|allow|authori[sz]"),
     "radio-off": (1, r"radio"),
 }
-
-
-def unix_time(stamped: dict) -> float:
-    return datetime.fromisoformat(stamped["timestamp"].replace("Z", "+00:00")).timestamp()
 
 
 def judge_refusals(results: Path, faults: Faults) -> None:
@@ -41,34 +48,35 @@ def judge_refusals(results: Path, faults: Faults) -> None:
     faults.expect(len(causes) == 4, "two different causes have the same message")
 
 
-def judge_making(entries: dict[str, iw_dump.Entry], faults: Faults) -> None:
+def judge_making(entries: list[iw_dump.Entry], faults: Faults) -> None:
     """Whether every access point is on the air as the table has it: the bed itself, not the program."""
-    for bssid, radio, made in SCAN.every_access_point():
-        if not faults.expect(bssid in entries, f"{bssid} {made.ssid!r} is not on the air"):
+    for bssid, radio, made in SCAN.changed().every_access_point():
+        found = [entry for entry in entries if (entry.bssid, entry.channel) == (bssid, radio.channel)]
+        entry = max(found, key=lambda entry: (entry.ssid == made.ssid, entry.heard), default=None)
+        if not faults.expect(entry is not None, f"{bssid} {made.ssid!r} is not on the air"):
             continue
-        entry = entries[bssid]
-        modes = [f"802.11{mode}" for mode in radio.phy_modes.split()]
-        wanted = (radio.channel, radio.width, made.security, modes, radio.country, radio.beacon_interval)
-        found = (entry.channel, entry.width, entry.security, entry.phy_modes, entry.country, entry.beacon_interval)
-        faults.expect(found == wanted, f"{bssid} {made.ssid!r} is on the air as {found}, made as {wanted}")
+        width = radio.width if made.width is None else made.width
+        modes = [f"802.11{mode}" for mode in (made.phy_modes or radio.phy_modes).split()]
+        wanted = (width, made.security, modes, radio.beacon_interval, radio.cell is not None)
+        seen = (entry.width, entry.security, entry.phy_modes, entry.beacon_interval, entry.ibss)
+        faults.expect(seen == wanted, f"{bssid} {made.ssid!r} is on the air as {seen}, made as {wanted}")
+        country = made.country or radio.country
+        faults.expect(entry.country in (country, NO_COUNTRY), f"{bssid}: country {entry.country}, made as {country}")
         faults.expect(made.hidden or entry.ssid == made.ssid, f"{bssid}: {entry.ssid!r} for {made.ssid!r}")
 
 
-def judge_list(step: Step, scans: Scans, faults: Faults) -> list[dict]:
-    """The list of one step against iw's; returns its records."""
+def judge_list(step: Step, scans: Scans, opinion: Opinion, faults: Faults) -> tuple[list[dict], dict]:
+    """The list of one step against iw's; returns its records, and iw's entries by address."""
     print(f"--- {step.name}")
     if not faults.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}"):
-        return []
+        return [], {}
     records = step.document("list.json")["networks"]
-    differences = compare(records, step.entries, scans.booted, scans.first_ending_after(step.begun).started)
-    print_table(records, step.entries, differences)
-    unexplained = sum(1 for difference in differences if not difference.reason)
-    print(f"{step.name}: {len(records)} records, {len(differences) - unexplained} explained and "
-          f"{unexplained} unexplained differences")
-    faults.count += unexplained
+    since = scans.first_ending_after(step.begun).started - scans.booted
+    entries = iw_dump.sightings(scans.listed_between(step.begun, step.ended) + step.listed, since - TOLERANCE)
+    print_list(records, entries, compare_lists(opinion, records, entries, since))
     for record in records:
         faults.expect(step.begun <= unix_time(record) <= step.ended, f"{record['bssid']}: {record['timestamp']}")
-    return records
+    return records, entries
 
 
 def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults) -> None:
@@ -88,8 +96,8 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
         signals = [sample["rssi"] for sample in history]
         faults.expect({sample["noise"] for sample in history} == {NOISE}, f"{bssid}: noise in {history}")
         heard = [sample for sample in history if sample["rssi"] != MISSED]
-        faults.expect({sample["rssi"] for sample in heard} == {record["rssi"]}, f"{bssid}: history {signals}")
-        faults.expect(bool(heard) and heard[-1]["timestamp"] == record["timestamp"], f"{bssid}: last heard when?")
+        last = (heard[-1]["timestamp"], heard[-1]["rssi"]) if heard else None
+        faults.expect(last == (record["timestamp"], record["rssi"]), f"{bssid}: last heard when?")
         if bssid == bssid_of(leaving, 0):
             gone = signals.index(MISSED) if MISSED in signals else len(signals)
             faults.expect(0 < gone < len(signals) and set(signals[gone:]) == {MISSED},
@@ -101,36 +109,92 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
 
 
 def judge_samples(bssid: str, history: list[dict], scans: Scans, faults: Faults) -> int:
-    """A sample is a sighting if, and only if, iw too says that the cycle's scan has heard the access point. An
-    emulated machine that is short of time does miss some. Returns how many samples iw could tell of."""
+    """A sample has the signal that iw lists for the cycle's scan if, and only if, iw too says that this scan has heard
+    the access point. An emulated machine that is short of time does miss some. Returns how many samples iw could
+    tell of."""
     checked = 0
     for sample in history:
         scan = scans.last_ended_before(unix_time(sample))
-        heard = scan.heard(bssid)
-        if heard is None or heard > scan.finished:
-            continue  # the kernel has dropped it, or heard it again before iw could ask
+        silent = scan.was_silent(bssid)
+        if silent is None:
+            continue
         checked += 1
-        missed = sample["rssi"] == MISSED
-        faults.expect(missed == (heard < scan.started - TOLERANCE),
-                      f"{bssid}: {sample}, but iw says heard {heard - scan.started:+.2f} s from the scan's start")
-        if missed:
+        expected = MISSED if silent else round(scan.entries[bssid].signal)
+        faults.expect(sample["rssi"] == expected, f"{bssid}: {sample}, but iw says {expected} dBm")
+        if silent:
             print(f"note: {bssid} was not heard at {sample['timestamp']}, says iw too")
     return checked
 
 
-def judge_survey(results: Path, scans: Scans, faults: Faults) -> None:
+def judge_survey(results: Path, scans: Scans, opinions: list[Opinion], faults: Faults) -> None:
     step = Step(results, "survey")
-    records = judge_list(step, scans, faults)
-    judge_making(step.entries, faults)
+    records, entries = judge_list(step, scans, opinions[0], faults)
+    judge_making(scans.listed_between(step.begun, step.ended) + step.listed, faults)
     listed = {record["bssid"] for record in records}
     named = {bssid for bssid, _, made in SCAN.every_access_point() if not made.hidden}
     faults.expect(listed == named, f"listed and made access points differ: {sorted(listed ^ named)}")
     judge_details(step, records, scans, faults)
+    judge_frames(results, records, entries, opinions)
 
 
-def judge_joined(results: Path, scans: Scans, faults: Faults) -> None:
+def judge_frames(results: Path, records: list[dict], entries: dict, opinions: list[Opinion]) -> None:
+    """The same records against the frames that were on the air just then."""
+    frames = air.decode(results / "air.pcap")
+    if frames is None:
+        print("tshark is not installed, and is not asked")
+        return
+    opinions.append(Opinion("tshark", OF_TSHARK))
+    differences, missing = [], []
+    for record in records:
+        entry = entries.get(record["bssid"])
+        frame = entry and frames.get((entry.bssid, entry.frequency))
+        if frame and frame.is_named:
+            differences += opinions[-1].compare(record, frame, OF_FRAMES)
+        else:
+            missing.append(record["ssid"])
+    print(f"--- {len(records) - len(missing)} records against tshark; without a frame of their own in the capture: "
+          f"{json.dumps(missing)}")
+    print_differences(differences)
+
+
+def judge_watch(results: Path, scans: Scans, opinion: Opinion, faults: Faults) -> None:
+    """Every cycle's readings against what iw listed at the end of that cycle's scan, while access points change."""
+    step = Step(results, "watch")
+    print(f"--- {step.name}")
+    lines = [json.loads(line) for line in step.text("stdout").splitlines()]
+    faults.expect({line["cycle"] for line in lines} == {1, 2, 3, 4}, f"{step.name}: not four cycles")
+    told: dict[str, dict] = {}
+    differences = []
+    for line in lines:
+        bssid = line["bssid"]
+        scan = scans.last_ended_before(unix_time(line)) if line["heard"] else None
+        if scan and scan.was_silent(bssid) is not None:
+            faults.expect(not scan.was_silent(bssid), f"{bssid} in cycle {line['cycle']}: iw has not heard it")
+            differences += opinion.compare(line, scan.entries[bssid], OF_FRAMES | OF_RECEIVER)
+        elif not line["heard"] and bssid in told:
+            kept = {reading: line[reading] == told[bssid][reading] for reading in OF_FRAMES if reading in line}
+            faults.expect(all(kept.values()), f"{bssid} in cycle {line['cycle']}: unheard, yet changed: {kept}")
+        told[bssid] = line
+    print(f"{len(lines)} lines")
+    print_differences(differences)
+    hidden, _ = SCAN.radio_of_role("hidden")
+    faults.expect(bssid_of(hidden, 0) in told, f"{step.name}: a hidden access point was asked by name, yet not told of")
+    for number, radio in enumerate(SCAN.radios, 1):
+        if radio.becomes:
+            judge_change(bssid_of(number, 0), radio, lines, faults)
+
+
+def judge_change(bssid: str, radio: Radio, lines: list[dict], faults: Faults) -> None:
+    """The first cycle has the access point as the survey had left it, the last one as it was made."""
+    readings = [(line["channel"], line["security"]) for line in lines if line["bssid"] == bssid]
+    states = [(state.channel, state.access_points[0].security) for state in (radio.becomes, radio)]
+    print(f"{bssid}: {readings}")
+    faults.expect(readings[:1] + readings[-1:] == states, f"{bssid} went from {states[0]} to {states[1]}: {readings}")
+
+
+def judge_joined(results: Path, scans: Scans, opinion: Opinion, faults: Faults) -> None:
     step = Step(results, "joined")
-    records = judge_list(step, scans, faults)
+    records, _ = judge_list(step, scans, opinion, faults)
     number, _ = SCAN.radio_of_role("joined")
     current = [record["bssid"] for record in records if record["isCurrentNetwork"]]
     faults.expect(current == [bssid_of(number, 0)], f"marked as current: {current}")
@@ -145,8 +209,12 @@ def main(results: Path) -> int:
     faults = Faults()
     judge_refusals(results, faults)
     scans = Scans(results)
-    judge_survey(results, scans, faults)
-    judge_joined(results, scans, faults)
+    opinions = [Opinion("iw", OF_ANY)]
+    judge_survey(results, scans, opinions, faults)
+    judge_watch(results, scans, opinions[0], faults)
+    judge_joined(results, scans, opinions[0], faults)
+    print_opinions(opinions)
+    faults.count += sum(sum(opinion.unexplained.values()) for opinion in opinions)
     print(f"{faults.count} faults")
     return 1 if faults.count else 0
 

@@ -5,6 +5,8 @@ from pathlib import Path
 
 import iw_dump
 
+TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
+
 
 class Scan:
     """Times are Unix times."""
@@ -12,14 +14,32 @@ class Scan:
     def __init__(self, started: float, finished: float, dump: Path, booted: float) -> None:
         self.started, self.finished = started, finished
         self._dump, self._booted = dump, booted
-        self._heard: dict[str, float] | None = None
+        self._listed: list[iw_dump.Entry] | None = None
+        self._entries: dict[str, iw_dump.Entry] | None = None
+
+    @property
+    def listed(self) -> list[iw_dump.Entry]:
+        if self._listed is None:
+            self._listed = iw_dump.parse(self._dump.read_text(encoding="utf-8", errors="replace"))
+        return self._listed
+
+    @property
+    def entries(self) -> dict[str, iw_dump.Entry]:
+        """By address, what counts of iw's list at the end of the scan."""
+        if self._entries is None:
+            self._entries = iw_dump.sightings(self.listed, self.started - self._booted - TOLERANCE)
+        return self._entries
 
     def heard(self, bssid: str) -> float | None:
-        """When the access point was last heard, by iw's list at the end of the scan; None where it is not listed."""
-        if self._heard is None:
-            entries = iw_dump.newest_of_each(iw_dump.parse(self._dump.read_text(encoding="utf-8", errors="replace")))
-            self._heard = {address: self._booted + entry.heard for address, entry in entries.items()}
-        return self._heard.get(bssid)
+        """When the access point was last heard, by that list; None where it is not in it."""
+        entry = self.entries.get(bssid)
+        return entry and self._booted + entry.heard
+
+    def was_silent(self, bssid: str) -> bool | None:
+        """Whether the access point was not heard in this scan; None where iw cannot tell: the kernel has dropped it,
+        or heard it again before iw could ask."""
+        heard = self.heard(bssid)
+        return None if heard is None or heard > self.finished else heard < self.started - TOLERANCE
 
 
 class Scans:
@@ -35,6 +55,10 @@ class Scans:
             else:
                 dump = results / "scans" / f"{len(self._scans) + 1}.txt"
                 self._scans.append(Scan(started, float(time), dump, self.booted))
+
+    def listed_between(self, begun: float, ended: float) -> list[iw_dump.Entry]:
+        """All that iw listed at the end of the scans in this time."""
+        return [entry for scan in self._scans if begun <= scan.finished <= ended for entry in scan.listed]
 
     def first_ending_after(self, time: float) -> Scan:
         return next(scan for scan in self._scans if scan.finished >= time)

@@ -1,9 +1,14 @@
 """What a scenario has left of each step, and the faults that a judge finds."""
 
 import json
+from datetime import datetime
 from pathlib import Path
 
 import iw_dump
+
+
+def unix_time(record: dict) -> float:
+    return datetime.fromisoformat(record["timestamp"].replace("Z", "+00:00")).timestamp()
 
 
 class Faults:
@@ -27,7 +32,8 @@ class Step:
         self.begun, self.ended = (float(self.text(mark)) for mark in ("begun", "ended"))
         self.status = int(self.text("status"))
         self.message = (self.text("stderr").strip().splitlines() or [""])[-1]
-        self.entries = iw_dump.newest_of_each(iw_dump.parse(self.text("iw.txt")))
+        self.listed = iw_dump.parse(self.text("iw.txt"))
+        self.entries = iw_dump.sightings(self.listed)
 
     def text(self, name: str) -> str:
         return (self.folder / name).read_text(encoding="utf-8", errors="replace")

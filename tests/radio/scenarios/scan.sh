@@ -19,10 +19,29 @@ permit yes
 details=()
 for bssid in $BSSIDS; do details+=(--details "$bssid" "$bssid.json"); done
 ended=$(scans_ended)
-observe survey 240 --cycles 4 --interval 5 --format json --list list.json "${details[@]}" &
+observe survey 240 --cycles 5 --interval 5 --format json --list list.json "${details[@]}" &
 # The first scan to end may be one of NetworkManager's own; with the second, the first cycle has had its scan.
-wait_for 180 scans_have_ended $((ended + 2)) && switch_off_access_point "$LEAVING_INTERFACE"
+if wait_for 180 scans_have_ended $((ended + 2)); then
+    switch_off_access_point "$LEAVING_INTERFACE"
+    change_access_points changed
+fi
 wait $!
+capture_air 3
+
+# Somebody else asks for a hidden name meanwhile, and for any: the kernel then lists its access point with and without
+# its name.
+ask_by_name() {
+    while sleep 0.5; do iw dev wlan0 scan trigger ssid "$HIDDEN_SSID" ""; done 2>/dev/null
+}
+
+first_cycle_is_told() { grep -q '"cycle":1' /out/watch/stdout; }
+ask_by_name &
+asking=$!
+observe watch 240 --watch --cycles 4 --interval 5 &
+wait_for 120 first_cycle_is_told && change_access_points made
+wait $!
+kill $asking
+network_manager_lives
 
 nmcli connection add type wifi con-name joined ifname wlan0 ssid "$JOINED_SSID" \
     ipv4.method disabled ipv6.method disabled >/dev/null
