@@ -7,6 +7,7 @@ line; to add a radio (another channel or width), add a Radio.
 import sys
 from pathlib import Path
 
+import crowd
 from access_points import AccessPoint, Plan, Radio
 from every_kind import SCAN
 from settings import EAP, PASSWORD, PSK
@@ -43,13 +44,15 @@ WINDOW = Plan((
     ), rx_rssi=-55),
 ))
 
-PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN}
+PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT")}
 
 
 def main(scenario: str, folder: Path) -> None:
     PLANS[scenario].write(folder)
     with (folder / "plan.sh").open("a") as plan:
         plan.write(f"PASSWORD='{PASSWORD}'\n")
+    if scenario == "crowd":
+        crowd.make(folder / "crowd")
     (folder / "eap.users").write_text('* PEAP\n"alice" MSCHAPV2 "wonderland" [2]\n')
 
 
