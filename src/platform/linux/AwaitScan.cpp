@@ -29,11 +29,22 @@ bool asksFor(const ScanEvent& event, const QByteArray& ssid)
     return event.ssids.isEmpty() || event.ssids.contains(ssid);
 }
 
-/// The beginning of the newest scan that the service knows of, unless that is too long ago.
-std::optional<BootTime> newestScan(ScanService& service, BootTime begun)
+/// A bound for the beginning of a scan that ended, or was under way, at `end`; the one before it ended at
+/// `before`.
+BootTime earliestStart(BootTime end, std::optional<BootTime> before)
+{
+    return std::max(end - longestScan, before.value_or(BootTime::min()));
+}
+
+/// The same for the newest scan that the service knows of, unless that is too long ago. `before` is what it
+/// knew when the wait began.
+std::optional<BootTime> newestScan(ScanService& service, BootTime begun, std::optional<BootTime> before)
 {
     const auto lastScan = service.lastScan();
-    return lastScan && *lastScan > begun - startLimit ? std::optional(*lastScan - usualScan) : std::nullopt;
+    if (!lastScan || *lastScan <= begun - startLimit) {
+        return {};
+    }
+    return lastScan == before ? *lastScan - usualScan : earliestStart(*lastScan, before);
 }
 
 } // namespace
@@ -41,8 +52,8 @@ std::optional<BootTime> newestScan(ScanService& service, BootTime begun)
 Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, BootTime begun,
                            const std::optional<QByteArray>& ssid, const Heard& heard)
 {
-    // A scan that is under way began after the one before it had ended.
-    const auto runningSince = std::max(begun - longestScan, service.lastScan().value_or(BootTime::min()));
+    const auto before = service.lastScan();
+    const auto runningSince = earliestStart(begun, before);
     const bool isListed = ssid && heard(BootTime::min());
     auto refusal = service.request(isListed ? std::nullopt : ssid);
     const auto requested = Deadline::clock::now();
@@ -59,7 +70,7 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
             if (auto obstacle = service.obstacle()) {
                 return *obstacle;
             }
-            if (const auto newest = newestScan(service, begun)) {
+            if (const auto newest = newestScan(service, begun, before)) {
                 return *newest;
             }
             if (deadline == lastDeadline) {

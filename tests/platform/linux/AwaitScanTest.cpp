@@ -167,6 +167,11 @@ TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
     EXPECT_EQ(await({}), begun - 17s);
     EXPECT_EQ(await({started}), begun - 17s);
 
+    m_service.lastScans = {begun - 40s, begun + 14s};
+    EXPECT_EQ(await({}), begun - 6s) << "a long one has just ended";
+    m_service.lastScans = {begun - 3s, begun + 14s};
+    EXPECT_EQ(await({}), begun - 3s);
+
     m_service.lastScans = {begun - 15s};
     EXPECT_EQ(await({}), std::nullopt);
     EXPECT_EQ(m_error, u"The Wi-Fi scan did not end in time"_s);
