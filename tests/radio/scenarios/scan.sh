@@ -28,19 +28,13 @@ fi
 wait $!
 capture_air 3
 
-# Somebody else asks for a hidden name meanwhile, and for any: the kernel then lists its access point with and without
-# its name.
-ask_by_name() {
-    while sleep 0.5; do iw dev wlan0 scan trigger ssid "$HIDDEN_SSID" ""; done 2>/dev/null
-}
-
-first_cycle_is_told() { grep -q '"cycle":1' /out/watch/stdout; }
-ask_by_name &
-asking=$!
-observe watch 240 --watch --cycles 4 --interval 5 &
-wait_for 120 first_cycle_is_told && change_access_points made
+cycle_is_told() { grep -q "\"cycle\":$1," /out/watch/stdout; }
+scan_by_name() { iw dev wlan0 scan trigger ssid "$HIDDEN_SSID" ""; }
+observe watch 300 --watch --cycles 6 --interval 5 &
+wait_for 120 cycle_is_told 1 && change_access_points made
+# Somebody else asks for a hidden name, and for any: the kernel then lists its access point with and without its name.
+for cycle in 2 3 4; do wait_for 120 cycle_is_told $cycle && wait_for 60 scan_by_name; done
 wait $!
-kill $asking
 network_manager_lives
 
 nmcli connection add type wifi con-name joined ifname wlan0 ssid "$JOINED_SSID" \
