@@ -14,14 +14,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(MainMenu)
+};
+
 void showAbout(QWidget& window)
 {
-    auto* about = new QMessageBox(QMessageBox::NoIcon, u"About Aerolith"_s,
-                                  u"Aerolith %1"_s.arg(QApplication::applicationVersion()),
+    auto* about = new QMessageBox(QMessageBox::NoIcon, Texts::tr("About Aerolith"),
+                                  Texts::tr("Aerolith %1").arg(QApplication::applicationVersion()),
                                   QMessageBox::Close, &window);
     about->setObjectName(u"about"_s);
     about->setTextFormat(Qt::PlainText);
-    about->setInformativeText(u"Wi-Fi survey for the Linux desktop.\nFree software under the MIT License."_s);
+    about->setInformativeText(
+        Texts::tr("Wi-Fi survey for the Linux desktop.\nFree software under the MIT License."));
     about->setAttribute(Qt::WA_DeleteOnClose);
     about->open();
 }
@@ -30,19 +36,19 @@ void showAbout(QWidget& window)
 
 void addMainMenu(MainWindow& window, const MenuTargets& targets)
 {
-    QMenu* application = window.menuBar()->addMenu(u"&Aerolith"_s);
-    application->addAction(u"&About Aerolith"_s, &window, [&window] { showAbout(window); });
+    QMenu* application = window.menuBar()->addMenu(Texts::tr("&Aerolith"));
+    application->addAction(Texts::tr("&About Aerolith"), &window, [&window] { showAbout(window); });
     application->addSeparator();
     application->addAction(new CheckForUpdatesView(targets.updater, application));
     application->addSeparator();
-    QAction* quit = application->addAction(u"&Quit"_s, &window, [] { QApplication::exit(0); });
+    QAction* quit = application->addAction(Texts::tr("&Quit"), &window, [] { QApplication::exit(0); });
     quit->setShortcut(QKeySequence::Quit);
 
-    QMenu* view = window.menuBar()->addMenu(u"&View"_s);
-    view->addAction(u"Toggle &Sidebar"_s, Qt::Key_F9, &window, &MainWindow::toggleSidebar);
+    QMenu* view = window.menuBar()->addMenu(Texts::tr("&View"));
+    view->addAction(Texts::tr("Toggle &Sidebar"), Qt::Key_F9, &window, &MainWindow::toggleSidebar);
 
-    QMenu* help = window.menuBar()->addMenu(u"&Help"_s);
-    help->addAction(u"Contact &Support"_s, &window,
+    QMenu* help = window.menuBar()->addMenu(Texts::tr("&Help"));
+    help->addAction(Texts::tr("Contact &Support"), &window,
                     [targets] { contactSupport(targets.workspace, targets.log); });
 }
 

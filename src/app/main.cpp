@@ -3,6 +3,8 @@
 #include "app/DisplayCheck.h"
 #include "app/FontConfiguration.h"
 #include "app/LeanStyle.h"
+#include "app/Translations.h"
+#include "platform/qt/Locale.h"
 #include "platform/qt/StandardLog.h"
 #include "platform/qt/TerminationSignals.h"
 #include "plug/PluggedPlatform.h"
@@ -37,6 +39,7 @@ int run(int argc, char** argv, const std::optional<Simulation>& simulate)
     const QApplication application(argc, argv);
     displayCheck.reset();
     QApplication::setStyle(new LeanStyle);
+    const Translations translations(messageLanguages());
     QApplication::setApplicationName(u"Aerolith"_s);
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
     QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);

@@ -13,6 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
+};
+
 /// Ends with the object that the connection is made in.
 class SignalObservation : public Observation
 {
@@ -25,7 +30,7 @@ private:
 
 Error unreadable(const Error& error)
 {
-    return {u"The update feed cannot be read: %1"_s.arg(error.description)};
+    return {Texts::tr("The update feed cannot be read: %1").arg(error.description)};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "update/DownloadFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,6 +11,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
+};
 
 /// "a.tar.gz" ends in ".tar.gz", "a-1.2.deb" in ".deb".
 qsizetype endingOf(const QString& name)
@@ -57,7 +63,7 @@ DownloadFile::DownloadFile(const QString& folder)
 Failure DownloadFile::open()
 {
     if (!QDir().mkpath(m_folder)) {
-        return Error{u"The folder %1 cannot be made"_s.arg(m_folder)};
+        return Error{Texts::tr("The folder %1 cannot be made").arg(m_folder)};
     }
     return m_file.open() ? Failure() : cannotSave();
 }
@@ -92,7 +98,7 @@ Result<QString> DownloadFile::keep(const QString& name)
 
 Error DownloadFile::cannotSave() const
 {
-    return Error{u"Nothing can be saved in %1: %2"_s.arg(m_folder, m_file.errorString())};
+    return Error{Texts::tr("Nothing can be saved in %1: %2").arg(m_folder, m_file.errorString())};
 }
 
 } // namespace aerolith

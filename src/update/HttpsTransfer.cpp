@@ -2,6 +2,8 @@
 
 #include "update/HttpsAddress.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace aerolith {
@@ -9,6 +11,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
+};
 
 constexpr int mostRedirects = 5;
 /// Bytes that wait to be received; the server is slowed down beyond.
@@ -45,7 +52,7 @@ QNetworkRequest requestFor(const QUrl& url, const std::optional<QSslConfiguratio
 
 QString inSeconds(std::chrono::milliseconds time)
 {
-    return u"%1 seconds"_s.arg(std::chrono::duration<double>(time).count());
+    return QString::number(std::chrono::duration<double>(time).count());
 }
 
 } // namespace
@@ -63,11 +70,13 @@ HttpsTransfer::HttpsTransfer(QNetworkAccessManager& manager, HttpsSettings setti
 {
     m_silence.setSingleShot(true);
     m_silence.callOnTimeout(this, [this] {
-        end(Error{u"%1 has been silent for %2"_s.arg(host(), inSeconds(m_settings.longestSilence))});
+        end(Error{Texts::tr("%1 has been silent for %2 seconds")
+                      .arg(host(), inSeconds(m_settings.longestSilence))});
     });
     m_timeLimit.setSingleShot(true);
     m_timeLimit.callOnTimeout(this, [this] {
-        end(Error{u"%1 was not done after %2"_s.arg(host(), inSeconds(m_timeLimit.intervalAsDuration()))});
+        end(Error{Texts::tr("%1 was not done after %2 seconds")
+                      .arg(host(), inSeconds(m_timeLimit.intervalAsDuration()))});
     });
     if (timeLimit) {
         m_timeLimit.start(*timeLimit);
@@ -92,7 +101,7 @@ void HttpsTransfer::handleStatus()
     if (isRedirect(*m_reply)) {
         redirect();
     } else if (const int status = statusOf(*m_reply); status != statusOk) {
-        end(Error{u"%1 answered with the HTTP status %2"_s.arg(host()).arg(status)});
+        end(Error{Texts::tr("%1 answered with the HTTP status %2").arg(host()).arg(status)});
     }
 }
 
@@ -102,10 +111,10 @@ void HttpsTransfer::redirect()
     const auto target = redirectTarget(m_reply->url(), location);
     if (!target) {
         constexpr qsizetype longest = 200;
-        end(Error{u"%1 redirects to an address that is not https: %2"_s.arg(
-            host(), QString::fromUtf8(location).left(longest))});
+        end(Error{Texts::tr("%1 redirects to an address that is not https: %2")
+                      .arg(host(), QString::fromUtf8(location).left(longest))});
     } else if (++m_redirects > mostRedirects) {
-        end(Error{u"%1 redirects more than %2 times"_s.arg(host()).arg(mostRedirects)});
+        end(Error{Texts::tr("%1 redirects more than %n times", nullptr, mostRedirects).arg(host())});
     } else {
         request(*target);
     }
@@ -138,14 +147,13 @@ Failure HttpsTransfer::receive()
 QString HttpsTransfer::explained(QNetworkReply::NetworkError error) const
 {
     if (error == QNetworkReply::SslHandshakeFailedError) {
-        return u"There is no secure connection to %1: %2"_s.arg(host(), m_reply->errorString());
+        return Texts::tr("There is no secure connection to %1: %2").arg(host(), m_reply->errorString());
     }
     if (m_received > 0) {
-        return u"The connection to %1 ended after %2 bytes: %3"_s.arg(host())
-            .arg(m_received)
-            .arg(m_reply->errorString());
+        return Texts::tr("The connection to %1 ended after %2 bytes: %3")
+            .arg(host(), QString::number(m_received), m_reply->errorString());
     }
-    return u"%1 cannot be reached: %2"_s.arg(host(), m_reply->errorString());
+    return Texts::tr("%1 cannot be reached: %2").arg(host(), m_reply->errorString());
 }
 
 void HttpsTransfer::end(const Failure& failure)

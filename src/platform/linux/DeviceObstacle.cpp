@@ -1,8 +1,17 @@
 #include "platform/linux/DeviceObstacle.h"
 
+#include <QCoreApplication>
+
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
+
+} // namespace
 
 Failure deviceObstacle(const NetworkManager& manager, const QString& interfaceName)
 {
@@ -11,17 +20,17 @@ Failure deviceObstacle(const NetworkManager& manager, const QString& interfaceNa
         return switches.error();
     }
     if (!switches.value().on()) {
-        return Error{u"The Wi-Fi radio is off"_s};
+        return Error{Texts::tr("The Wi-Fi radio is off")};
     }
     const auto device = manager.device(interfaceName);
     if (!device.ok()) {
         return device.error();
     }
     if (!device.value()) {
-        return Error{u"The Wi-Fi interface %1 is gone"_s.arg(interfaceName)};
+        return Error{Texts::tr("The Wi-Fi interface %1 is gone").arg(interfaceName)};
     }
     if (device.value()->state < DeviceState::disconnected) {
-        return Error{u"The Wi-Fi interface %1 is not available"_s.arg(interfaceName)};
+        return Error{Texts::tr("The Wi-Fi interface %1 is not available").arg(interfaceName)};
     }
     return {};
 }

@@ -9,12 +9,19 @@
 #include "platform/linux/networkmanager/StoredProfile.h"
 #include "platform/linux/nl80211/Sightings.h"
 
+#include <QCoreApplication>
+
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
 using nl80211::BootTime;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
 
 class Join
 {
@@ -137,7 +144,7 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
                     const std::optional<QString>& password)
 {
     if (!network.bssid || network.ssidData.isEmpty()) {
-        return Error{u"The network's name is not known"_s};
+        return Error{Texts::tr("The network's name is not known")};
     }
     const auto info = wireless.interface(name);
     if (!info.ok()) {
@@ -145,14 +152,14 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
     }
     const NetworkManager manager(wireless.bus);
     if (!manager.isRunning()) {
-        return Error{u"NetworkManager is not running"_s};
+        return Error{Texts::tr("NetworkManager is not running")};
     }
     const auto device = manager.device(name);
     if (!device.ok()) {
         return device.error();
     }
     if (!device.value() || device.value()->state == DeviceState::unmanaged) {
-        return Error{u"NetworkManager does not manage the Wi-Fi interface %1"_s.arg(name)};
+        return Error{Texts::tr("NetworkManager does not manage the Wi-Fi interface %1").arg(name)};
     }
     if (auto obstacle = deviceObstacle(manager, name)) {
         return obstacle;

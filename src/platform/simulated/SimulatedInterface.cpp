@@ -1,5 +1,7 @@
 #include "platform/simulated/SimulatedInterface.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <utility>
 
@@ -8,6 +10,12 @@ using namespace Qt::StringLiterals;
 namespace aerolith {
 
 namespace {
+
+/// The words are those of the real machine.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
 
 CWNetwork withheld(CWNetwork network)
 {
@@ -78,7 +86,7 @@ bool SimulatedInterface::powerOn() const
 Failure SimulatedInterface::setPower(bool on)
 {
     if (!isPluggedIn()) {
-        return Error{u"The Wi-Fi interface is gone"_s};
+        return Error{Texts::tr("The Wi-Fi interface is gone")};
     }
     if (m_description.powerRefused) {
         return Error{*m_description.powerRefused};
@@ -126,7 +134,7 @@ Failure SimulatedInterface::associateToNetwork(const CWNetwork& network,
     }
     const auto needed = m_scenario.passwords.constFind(QString::fromUtf8(network.ssidData));
     if (needed != m_scenario.passwords.cend() && *needed != password.value_or(QString())) {
-        return Error{u"The password is not correct"_s};
+        return Error{Texts::tr("The password is not correct")};
     }
     m_joinedByUser = ScenarioAssociation{network.ssid, network.bssid};
     return {};
@@ -168,10 +176,10 @@ void SimulatedInterface::stopScanning()
 Failure SimulatedInterface::refusal() const
 {
     if (!m_pluggedIn) {
-        return Error{u"The Wi-Fi interface is gone"_s};
+        return Error{Texts::tr("The Wi-Fi interface is gone")};
     }
     if (!m_powerOn) {
-        return Error{u"The Wi-Fi radio is off"_s};
+        return Error{Texts::tr("The Wi-Fi radio is off")};
     }
     return {};
 }

@@ -3,14 +3,18 @@
 #include "ui/common/SecondaryLabel.h"
 #include "ui/common/Theme.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ChartLegend)
+};
 
 constexpr int dotSize = 8;
 
@@ -49,15 +53,15 @@ QLabel* makeCaption(const QString& text)
 ChartLegend::ChartLegend(QWidget* parent) : QWidget(parent)
 {
     auto* title = new SecondaryLabel(TextStyle::subheadline);
-    title->setText(u"Signal History"_s);
+    title->setText(Texts::tr("Signal History"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->addWidget(title);
     row->addStretch();
     row->addWidget(new LegendDot(Theme::green));
-    row->addWidget(makeCaption(u"Signal"_s));
+    row->addWidget(makeCaption(Texts::tr("Signal")));
     row->addWidget(new LegendDot(Theme::red));
-    row->addWidget(makeCaption(u"Noise"_s));
+    row->addWidget(makeCaption(Texts::tr("Noise")));
 }
 
 } // namespace aerolith

@@ -1,5 +1,6 @@
 #include "ui/detail/CustomSignalChart.h"
 
+#include "ui/common/NetworkTexts.h"
 #include "ui/common/Theme.h"
 
 #include <QKeyEvent>
@@ -189,11 +190,11 @@ void CustomSignalChart::hover(const std::optional<QUuid>& id)
 /// Assistive technology reads out what has the focus when its name changes.
 void CustomSignalChart::nameForAssistance()
 {
-    QStringList name{u"Signal History"_s};
+    QStringList name{tr("Signal History")};
     if (const qsizetype hovered = hoveredIndex(); hovered >= 0) {
         name.append(dot(geometry(), hovered).readOut());
     }
-    setAccessibleName(name.join(u", "_s));
+    setAccessibleName(name.join(listSeparator()));
 }
 
 void CustomSignalChart::hoverSample(qsizetype index)

@@ -19,20 +19,20 @@ DetailStatusBar::DetailStatusBar(WiFiScanner& scanner, const DetailSurroundings&
     : StatusBarFrame(parent)
     , m_scanner(scanner)
     , m_surroundings(surroundings)
-    , m_export(new SymbolButton(u"square.and.arrow.up"_s, u"Export network data"_s))
+    , m_export(new SymbolButton(u"square.and.arrow.up"_s, tr("Export network data")))
     , m_lastSeen(new SecondaryLabel(lastSeenSize))
-    , m_refresh(new SymbolButton(u"arrow.clockwise"_s, u"Refresh network data"_s))
+    , m_refresh(new SymbolButton(u"arrow.clockwise"_s, tr("Refresh network data")))
     , m_spinner(new Spinner)
     , m_publish([this] { showState(); })
 {
     m_export->setObjectName(u"exportDetails"_s);
-    m_export->setTitle(u"Export network data"_s);
-    m_export->setToolTip(u"Export network data"_s);
+    m_export->setTitle(tr("Export network data"));
+    m_export->setToolTip(tr("Export network data"));
     m_lastSeen->setObjectName(u"lastSeen"_s);
     m_refresh->setObjectName(u"refresh"_s);
-    m_refresh->setToolTip(u"Refresh network data"_s);
+    m_refresh->setToolTip(tr("Refresh network data"));
     m_spinner->setObjectName(u"scanning"_s);
-    m_spinner->setAccessibleName(u"Scanning"_s);
+    m_spinner->setAccessibleName(tr("Scanning"));
     layOut();
 
     connect(m_export, &SymbolButton::clicked, this, &DetailStatusBar::exportDetails);
@@ -67,8 +67,10 @@ void DetailStatusBar::showState()
     m_export->setVisible(m_network.has_value());
     m_lastSeen->setVisible(m_network.has_value());
     if (m_network) {
-        m_lastSeen->setText("Last seen "_L1 +
-                            m_surroundings.texts.relative(m_network->timestamp, m_surroundings.clock.now()));
+        //: %1 is a time before now, as in "5 sec. ago".
+        m_lastSeen->setText(
+            tr("Last seen %1")
+                .arg(m_surroundings.texts.relative(m_network->timestamp, m_surroundings.clock.now())));
     }
     showScanning(m_scanner.status() == ScannerStatus::scanning);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/common/Theme.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPalette>
@@ -10,9 +11,12 @@
 
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(HoverableDot)
+};
 
 constexpr double boxDistance = 50;
 constexpr double boxPadding = 6;
@@ -35,7 +39,7 @@ QRectF HoverableDot::square() const
 
 QStringList HoverableDot::readOut() const
 {
-    return {u"RSSI: %1 dBm"_s.arg(data.rssi), u"Noise: %1 dBm"_s.arg(data.noise)};
+    return {Texts::tr("RSSI: %1 dBm").arg(data.rssi), Texts::tr("Noise: %1 dBm").arg(data.noise)};
 }
 
 QRectF HoverableDot::readOutBox(const QFont& font) const

@@ -52,7 +52,7 @@ QScrollArea* makeScrollArea(const QList<DetailSection*>& sections)
 
     auto* area = new QScrollArea;
     area->setObjectName(u"networkDetails"_s);
-    area->setAccessibleName(u"Network details"_s);
+    area->setAccessibleName(NetworkDetailView::tr("Network details"));
     area->setFrameShape(QFrame::NoFrame);
     area->setBackgroundRole(QPalette::Base);
     area->setWidgetResizable(true);
@@ -72,9 +72,9 @@ NetworkDetailView::NetworkDetailView(WiFiScanner& scanner, const DetailSurroundi
                                      QWidget* parent)
     : QWidget(parent)
     , m_chart(new CustomSignalChart(chartParameters))
-    , m_signalOverview(new DetailSection(u"Signal Overview"_s))
-    , m_networkInformation(new DetailSection(u"Network Information"_s))
-    , m_advanced(new DetailSection(u"Advanced"_s))
+    , m_signalOverview(new DetailSection(tr("Signal Overview")))
+    , m_networkInformation(new DetailSection(tr("Network Information")))
+    , m_advanced(new DetailSection(tr("Advanced")))
     , m_statusBar(new DetailStatusBar(scanner, surroundings))
 {
     setObjectName(u"networkDetailView"_s);

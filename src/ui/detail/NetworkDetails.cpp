@@ -1,6 +1,9 @@
 #include "ui/detail/NetworkDetails.h"
 
+#include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -9,6 +12,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(NetworkDetails)
+};
 
 QString withUnit(qint64 number, QLatin1StringView unit)
 {
@@ -19,30 +27,32 @@ NetworkDetailList signalOverview(const WiFiNetwork& network)
 {
     return {
         {u"currentRssi"_s, u"Current RSSI"_s, withUnit(network.rssi, "dBm"_L1),
-         u"Received Signal Strength Indicator - measures how strong the WiFi signal is"_s},
+         Texts::tr("Received Signal Strength Indicator - measures how strong the WiFi signal is")},
         {u"noiseLevel"_s, u"Noise Level"_s, withUnit(network.noise, "dBm"_L1),
-         u"Background interference level that can affect signal quality"_s},
+         Texts::tr("Background interference level that can affect signal quality")},
         {u"snr"_s, u"SNR"_s, withUnit(network.rssi - network.noise, "dB"_L1),
-         u"Signal-to-Noise Ratio - higher values mean better signal quality"_s},
+         Texts::tr("Signal-to-Noise Ratio - higher values mean better signal quality")},
     };
 }
 
 NetworkDetailList networkInformation(const WiFiNetwork& network)
 {
     NetworkDetailList details{
-        {u"ssid"_s, u"SSID"_s, network.ssid, u"Network name broadcast by the access point"_s},
-        {u"bssid"_s, u"BSSID"_s, network.bssid, u"Unique identifier (MAC address) of the access point"_s},
+        {u"ssid"_s, u"SSID"_s, network.ssid, Texts::tr("Network name broadcast by the access point")},
+        {u"bssid"_s, u"BSSID"_s, network.bssid,
+         Texts::tr("Unique identifier (MAC address) of the access point")},
         {u"channel"_s, u"Channel"_s, QString::number(network.channel),
-         u"WiFi channel number used for transmission"_s},
+         Texts::tr("WiFi channel number used for transmission")},
         {u"band"_s, u"Band"_s, network.channelBand,
-         u"Frequency band used by the network (2.4 GHz or 5 GHz)"_s},
+         Texts::tr("Frequency band used by the network (2.4 GHz or 5 GHz)")},
         {u"channelWidth"_s, u"Channel Width"_s, withUnit(network.channelWidth, "MHz"_L1),
-         u"Width of the frequency channel - wider channels can provide higher speeds"_s},
-        {u"security"_s, u"Security"_s, network.security, u"Security protocol used to protect the network"_s},
+         Texts::tr("Width of the frequency channel - wider channels can provide higher speeds")},
+        {u"security"_s, u"Security"_s, network.security,
+         Texts::tr("Security protocol used to protect the network")},
     };
     if (network.countryCode) {
         details.append({u"country"_s, u"Country"_s, *network.countryCode,
-                        u"Country code defining regional WiFi regulations"_s});
+                        Texts::tr("Country code defining regional WiFi regulations")});
     }
     return details;
 }
@@ -51,11 +61,11 @@ NetworkDetailList advanced(const WiFiNetwork& network)
 {
     return {
         {u"beaconInterval"_s, u"Beacon Interval"_s, QString::number(network.beaconInterval),
-         u"Time between router beacon transmissions in milliseconds"_s},
+         Texts::tr("Time between router beacon transmissions in milliseconds")},
         {u"networkType"_s, u"Network Type"_s, network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s,
-         u"Infrastructure networks use access points, Ad-Hoc are direct device-to-device"_s},
+         Texts::tr("Infrastructure networks use access points, Ad-Hoc are direct device-to-device")},
         {u"phyModes"_s, u"PHY Modes"_s, network.isPhyModeSupported.join(u", "_s),
-         u"Supported WiFi standards and transmission modes"_s},
+         Texts::tr("Supported WiFi standards and transmission modes")},
     };
 }
 
@@ -76,11 +86,13 @@ QString signalSummary(const WiFiNetwork& network)
         const auto [weakest, strongest] = std::minmax_element(
             history.begin(), history.end(),
             [](const SignalHistory& a, const SignalHistory& b) { return a.rssi < b.rssi; });
-        parts << u"latest %1 dBm"_s.arg(history.last().rssi) << u"lowest %1 dBm"_s.arg(weakest->rssi)
-              << u"highest %1 dBm"_s.arg(strongest->rssi);
+        parts << Texts::tr("latest %1 dBm").arg(history.last().rssi)
+              << Texts::tr("lowest %1 dBm").arg(weakest->rssi)
+              << Texts::tr("highest %1 dBm").arg(strongest->rssi);
     }
-    parts.append(history.size() == 1 ? u"1 sample"_s : u"%1 samples"_s.arg(history.size()));
-    return parts.join(u", "_s);
+    const auto count = static_cast<int>(history.size());
+    parts.append(count == 1 ? Texts::tr("1 sample") : Texts::tr("%n samples", nullptr, count));
+    return parts.join(listSeparator());
 }
 
 } // namespace aerolith

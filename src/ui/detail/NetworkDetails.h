@@ -12,8 +12,8 @@ struct NetworkDetail
 {
     /// Of its row among the widgets.
     QString name;
+    /// Verbatim in every language, as is the value, whatever the air has sent.
     QString label;
-    /// Verbatim, whatever the air has sent.
     QString value;
     /// What the fact means.
     QString tooltip;

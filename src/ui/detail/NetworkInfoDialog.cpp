@@ -24,7 +24,7 @@ NetworkInfoDialog::NetworkInfoDialog(const CWInterface* interface, const HostAdd
     : Sheet(sheetWidth, sheetSpacing, parent), m_workspace(workspace), m_log(log)
 {
     setObjectName(u"networkInfoDialog"_s);
-    const QString title = u"Network Interface Information"_s;
+    const QString title = tr("Network Interface Information");
     setWindowTitle(title);
 
     auto* box = new TitledBox(title, rowSpacing);
@@ -37,10 +37,10 @@ NetworkInfoDialog::NetworkInfoDialog(const CWInterface* interface, const HostAdd
 
 QLayout* NetworkInfoDialog::makeButtons()
 {
-    auto* settings = new QPushButton(u"Open Network Settings"_s);
+    auto* settings = new QPushButton(tr("Open Network Settings"));
     settings->setObjectName(u"openNetworkSettings"_s);
     connect(settings, &QPushButton::clicked, this, &NetworkInfoDialog::openNetworkSettings);
-    auto* closeButton = new QPushButton(u"Close"_s, this);
+    auto* closeButton = new QPushButton(tr("Close"), this);
     closeButton->setObjectName(u"close"_s);
     closeButton->setDefault(true);
     closeButton->setFocus();

@@ -1,20 +1,30 @@
 #include "ui/main/BackdropMessage.h"
 
+#include <QCoreApplication>
+
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(BackdropMessage)
+};
+
+} // namespace
+
 BackdropMessage backdropMessage(bool locationAccessDenied, bool listIsEmpty)
 {
     if (locationAccessDenied) {
-        return {
-            u"location.slash"_s,
-            u"Location access is required\nto scan for networks.\n\nPlease enable it\nin System Settings."_s};
+        return {u"location.slash"_s, Texts::tr("Location access is required\nto scan for networks.\n\n"
+                                               "Please enable it\nin System Settings.")};
     }
     if (!listIsEmpty) {
-        return {u"chevron.left"_s, u"Select a network to view details"_s};
+        return {u"chevron.left"_s, Texts::tr("Select a network to view details")};
     }
-    return {u"network"_s, u"Scanning for networks.\nPlease wait..."_s};
+    return {u"network"_s, Texts::tr("Scanning for networks.\nPlease wait...")};
 }
 
 } // namespace aerolith

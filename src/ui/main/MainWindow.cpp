@@ -46,8 +46,8 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
     , m_surroundings(surroundings)
     , m_content(new ContentView(scanner, surroundings))
     , m_sidebarButton(makeButton(u"toggleSidebar"_s, u"sidebar.left"_s, {}))
-    , m_settingsButton(makeButton(u"settings"_s, u"gear"_s, u"Settings"_s))
-    , m_infoButton(makeButton(u"networkInfo"_s, u"info.circle"_s, u"Wi-Fi interface information"_s))
+    , m_settingsButton(makeButton(u"settings"_s, u"gear"_s, tr("Settings")))
+    , m_infoButton(makeButton(u"networkInfo"_s, u"info.circle"_s, tr("Wi-Fi interface information")))
 {
     setObjectName(u"mainWindow"_s);
     m_content->setObjectName(u"content"_s);
@@ -102,7 +102,7 @@ void MainWindow::toggleSidebar()
 
 void MainWindow::nameSidebarButton()
 {
-    m_sidebarButton->setAccessibleName(m_content->isSidebarShown() ? u"Hide sidebar"_s : u"Show sidebar"_s);
+    m_sidebarButton->setAccessibleName(m_content->isSidebarShown() ? tr("Hide sidebar") : tr("Show sidebar"));
 }
 
 } // namespace aerolith

@@ -1,11 +1,13 @@
 #include "ui/main/NetworkRowView.h"
 
+#include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 #include "ui/common/WiFiSignalBars.h"
 #include "ui/main/NetworkRowLayout.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPalette>
@@ -17,6 +19,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(NetworkRowView)
+};
 
 constexpr double hiddenOpacity = 0.5;
 
@@ -62,13 +69,15 @@ QString NetworkRowView::name() const
 
 QString NetworkRowView::details() const
 {
-    return u"%1 \u2022 Ch %2 (%3)"_s.arg(network.securityInfo().first, QString::number(network.channel),
-                                         network.channelBand);
+    //: The second line of a row: its security, its channel's number and its band, as in "WPA2 \u2022 Ch 36 (5
+    //: GHz)".
+    return Texts::tr("%1 \u2022 Ch %2 (%3)")
+        .arg(securityText(network), QString::number(network.channel), bandText(network));
 }
 
 QString NetworkRowView::signal() const
 {
-    return QString::number(network.rssi) + " dBm"_L1;
+    return Texts::tr("%1 dBm").arg(network.rssi);
 }
 
 QString NetworkRowView::symbol() const
@@ -84,15 +93,15 @@ double NetworkRowView::opacity() const
 QString NetworkRowView::accessibleText() const
 {
     const WiFiSignalBars bars{.rssi = network.rssi};
-    QStringList parts{isolated(name()), network.securityInfo().first, u"channel %1"_s.arg(network.channel),
-                      u"%1 of %2 bars"_s.arg(bars.litCount()).arg(bars.barCount), signal()};
+    QStringList parts{isolated(name()), securityText(network), Texts::tr("channel %1").arg(network.channel),
+                      Texts::tr("%1 of %2 bars").arg(bars.litCount()).arg(bars.barCount), signal()};
     if (network.isCurrentNetwork) {
-        parts.append(u"joined"_s);
+        parts.append(Texts::tr("joined"));
     }
     if (isHidden) {
-        parts.append(u"hidden"_s);
+        parts.append(Texts::tr("hidden"));
     }
-    return parts.join(u", "_s);
+    return parts.join(listSeparator());
 }
 
 int NetworkRowView::height(const QFont& font)

@@ -43,7 +43,7 @@ Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExp
     setAutoFillBackground(true);
     m_filter->setObjectName(u"filter"_s);
     m_list->setObjectName(u"networkList"_s);
-    m_list->setAccessibleName(u"Networks"_s);
+    m_list->setAccessibleName(tr("Networks"));
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
@@ -83,13 +83,13 @@ QLayout* Sidebar::makeHeader()
 void Sidebar::showFilter()
 {
     m_filter->setChecked(m_scanner.showHiddenNetworks());
-    m_filter->setText(m_scanner.showHiddenNetworks() ? u"All Networks"_s : u"Hiding Hidden"_s);
+    m_filter->setText(m_scanner.showHiddenNetworks() ? tr("All Networks") : tr("Hiding Hidden"));
 }
 
 void Sidebar::showNetworks()
 {
     const QStringList hidden = loadHiddenBSSIDs(m_userDefaults);
-    m_count->setText(u"%1 Networks"_s.arg(m_scanner.networks().size()));
+    m_count->setText(tr("%n Networks", nullptr, static_cast<int>(m_scanner.networks().size())));
     m_list->showNetworks(
         {.networks = m_scanner.networks(), .hidden = QSet<QString>(hidden.cbegin(), hidden.cend())});
 }
@@ -106,9 +106,9 @@ void Sidebar::openMenu(const WiFiNetwork& network, const QPoint& position)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const QString bssid = network.bssid;
     if (m_scanner.isHidden(bssid)) {
-        menu->addAction(u"Show Network"_s, this, [this, bssid] { m_scanner.unhideNetwork(bssid); });
+        menu->addAction(tr("Show Network"), this, [this, bssid] { m_scanner.unhideNetwork(bssid); });
     } else {
-        menu->addAction(u"Hide Network"_s, this, [this, bssid] { m_scanner.hideNetwork(bssid); });
+        menu->addAction(tr("Hide Network"), this, [this, bssid] { m_scanner.hideNetwork(bssid); });
     }
     menu->popup(position);
 }

@@ -29,8 +29,8 @@ SymbolButton* makeButton(const QString& objectName, const QString& symbol, const
 SidebarStatusBar::SidebarStatusBar(WiFiScanner& scanner, FileExporter& exporter, QWidget* parent)
     : StatusBarFrame(parent), m_scanner(scanner), m_exporter(exporter), m_sortMenu(new QComboBox)
 {
-    auto* exportButton = makeButton(u"exportList"_s, u"square.and.arrow.up"_s, u"Export network list"_s);
-    auto* clearButton = makeButton(u"clearList"_s, u"trash"_s, u"Clear network list"_s);
+    auto* exportButton = makeButton(u"exportList"_s, u"square.and.arrow.up"_s, tr("Export network list"));
+    auto* clearButton = makeButton(u"clearList"_s, u"trash"_s, tr("Clear network list"));
     row().setSpacing(itemSpacing);
     row().addWidget(exportButton);
     row().addWidget(clearButton);
@@ -49,11 +49,11 @@ SidebarStatusBar::SidebarStatusBar(WiFiScanner& scanner, FileExporter& exporter,
 QWidget* SidebarStatusBar::makeSortMenu()
 {
     m_sortMenu->setObjectName(u"sortMenu"_s);
-    m_sortMenu->setAccessibleName(u"Sort by"_s);
-    m_sortMenu->addItem(u"Signal Strength"_s, QVariant::fromValue(SortOption::signal));
-    m_sortMenu->addItem(u"Network Name"_s, QVariant::fromValue(SortOption::ssid));
-    m_sortMenu->addItem(u"Channel"_s, QVariant::fromValue(SortOption::channel));
-    m_sortMenu->addItem(u"Security Type"_s, QVariant::fromValue(SortOption::security));
+    m_sortMenu->setAccessibleName(tr("Sort by"));
+    m_sortMenu->addItem(tr("Signal Strength"), QVariant::fromValue(SortOption::signal));
+    m_sortMenu->addItem(tr("Network Name"), QVariant::fromValue(SortOption::ssid));
+    m_sortMenu->addItem(tr("Channel"), QVariant::fromValue(SortOption::channel));
+    m_sortMenu->addItem(tr("Security Type"), QVariant::fromValue(SortOption::security));
 
     auto* menu = new QWidget;
     menu->setFixedWidth(sortMenuWidth);

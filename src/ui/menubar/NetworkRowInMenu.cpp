@@ -2,12 +2,14 @@
 
 #include "ui/common/Divider.h"
 #include "ui/common/FocusRing.h"
+#include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 #include "ui/common/WiFiSignalBars.h"
 #include "ui/detail/SignalChartLayers.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPalette>
@@ -20,13 +22,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(NetworkRowInMenu)
+};
+
 constexpr double joinedOpacity = 0.1;
 constexpr double hoveredOpacity = 0.05;
 constexpr QMarginsF focusDistance{2, 2, 2, 2};
 
 QString connectText()
 {
-    return u"Connect"_s;
+    return Texts::tr("Connect");
 }
 
 QFont nameFont(const QFont& base)
@@ -53,9 +60,10 @@ QString NetworkRowInMenu::accessibleText() const
 {
     const QString name = isolated(singleLine(network.ssid));
     if (network.isCurrentNetwork) {
-        return u"%1, joined"_s.arg(name);
+        return Texts::tr("%1, joined").arg(name);
     }
-    return u"Connect to %1, %2"_s.arg(name, network.securityInfo().first);
+    //: %1 is a network, %2 its security.
+    return Texts::tr("Connect to %1, %2").arg(name, securityText(network));
 }
 
 int NetworkRowInMenu::height(const QFont& font, bool isJoined)

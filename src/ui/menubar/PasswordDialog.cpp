@@ -18,28 +18,28 @@ constexpr QSize fieldSize{200, 24};
 /// An empty name is left out with what would isolate it.
 QString message(const QString& ssid)
 {
-    return u"Connect to "_s + (ssid.isEmpty() ? QString() : isolated(singleLine(ssid)));
+    return PasswordDialog::tr("Connect to %1").arg(ssid.isEmpty() ? QString() : isolated(singleLine(ssid)));
 }
 
 } // namespace
 
 PasswordDialog::PasswordDialog(const QString& ssid)
-    : Alert(message(ssid), u"Enter the network password:"_s), m_field(new QLineEdit), m_spinner(new Spinner)
+    : Alert(message(ssid), tr("Enter the network password:")), m_field(new QLineEdit), m_spinner(new Spinner)
 {
     setObjectName(u"passwordDialog"_s);
     m_field->setObjectName(u"password"_s);
-    m_field->setAccessibleName(u"Network password"_s);
+    m_field->setAccessibleName(tr("Network password"));
     m_field->setEchoMode(QLineEdit::Password);
     m_field->setFixedSize(fieldSize);
     addAccessory(m_field);
 
     buttons().clear();
-    auto* connectButton = buttons().addButton(u"Connect"_s, QDialogButtonBox::AcceptRole);
+    auto* connectButton = buttons().addButton(tr("Connect"), QDialogButtonBox::AcceptRole);
     connectButton->setObjectName(u"connect"_s);
     connectButton->setDefault(true);
     buttons().addButton(QDialogButtonBox::Cancel)->setObjectName(u"cancel"_s);
     m_spinner->setObjectName(u"connecting"_s);
-    m_spinner->setAccessibleName(u"Connecting"_s);
+    m_spinner->setAccessibleName(tr("Connecting"));
     m_spinner->hide();
     buttons().layout()->addWidget(m_spinner);
     m_field->setFocus();

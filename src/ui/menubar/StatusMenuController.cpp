@@ -39,7 +39,7 @@ void StatusMenuController::updateStatusIcon(bool isEnabled)
     if (!hasStatusItem()) {
         return;
     }
-    m_statusItem->setImage(statusIcon(isEnabled ? u"wifi"_s : u"wifi.slash"_s), u"WiFi"_s);
+    m_statusItem->setImage(statusIcon(isEnabled ? u"wifi"_s : u"wifi.slash"_s), tr("WiFi"));
     setWiFiEnabled(isEnabled);
 }
 

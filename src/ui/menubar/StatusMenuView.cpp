@@ -31,7 +31,7 @@ constexpr QSize toolsSymbol{14, 14};
 
 QLabel* makeTitle()
 {
-    auto* title = new QLabel(u"Wi-Fi"_s);
+    auto* title = new QLabel(StatusMenuView::tr("Wi-Fi"));
     title->setTextFormat(Qt::PlainText);
     title->setFont(Theme::font(title->font(), textSize, QFont::Bold));
     return title;
@@ -41,7 +41,7 @@ Spinner* makeSpinner()
 {
     auto* spinner = new Spinner;
     spinner->setObjectName(u"scanning"_s);
-    spinner->setAccessibleName(u"Scanning"_s);
+    spinner->setAccessibleName(StatusMenuView::tr("Scanning"));
     return spinner;
 }
 
@@ -49,7 +49,7 @@ Switch* makePowerSwitch()
 {
     auto* power = new Switch;
     power->setObjectName(u"power"_s);
-    power->setAccessibleName(u"Wi-Fi"_s);
+    power->setAccessibleName(StatusMenuView::tr("Wi-Fi"));
     return power;
 }
 
@@ -113,7 +113,7 @@ QWidget* StatusMenuView::makeHeader()
 
 QWidget* StatusMenuView::makeBottomBar()
 {
-    auto* openApp = new QPushButton(u"Open App"_s);
+    auto* openApp = new QPushButton(tr("Open App"));
     openApp->setObjectName(u"openApp"_s);
     openApp->setFont(Theme::font(openApp->font(), textSize));
     openApp->setAutoDefault(false);
@@ -131,18 +131,18 @@ QWidget* StatusMenuView::makeBottomBar()
 
 QWidget* StatusMenuView::makeToolsMenu()
 {
-    auto* tools = new SymbolButton(u"wrench.and.screwdriver"_s, u"Tools"_s);
+    auto* tools = new SymbolButton(u"wrench.and.screwdriver"_s, tr("Tools"));
     tools->setObjectName(u"tools"_s);
-    tools->setTitle(u"Tools"_s);
+    tools->setTitle(tr("Tools"));
     tools->setIconSize(toolsSymbol);
     tools->setFixedWidth(toolsWidth);
     tools->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(tools);
     menu->setObjectName(u"toolsMenu"_s);
     menu->setToolTipsVisible(true);
-    menu->addAction(u"Wi-Fi Settings..."_s, this,
+    menu->addAction(tr("Wi-Fi Settings..."), this,
                     [this] { report(m_surroundings.workspace.openSettings(SettingsPage::wifi)); });
-    m_diagnostics = menu->addAction(u"Wireless Diagnostics..."_s, this,
+    m_diagnostics = menu->addAction(tr("Wireless Diagnostics..."), this,
                                     [this] { report(m_surroundings.workspace.openDiagnostics()); });
     connect(menu, &QMenu::aboutToShow, this, &StatusMenuView::checkDiagnostics);
     tools->setMenu(menu);

@@ -3,6 +3,8 @@
 #include "ui/menubar/PasswordDialog.h"
 #include "ui/menubar/WaitState.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -11,6 +13,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WiFiConnectionManager)
+};
 
 bool needsPassword(const CWNetwork& network)
 {
@@ -28,7 +35,7 @@ Failure associate(CWInterface& interface, const CWNetwork& network, const std::o
 
 void showFailure(const Error& error)
 {
-    Alert alert(u"Connection Failed"_s, error.description);
+    Alert alert(Texts::tr("Connection Failed"), error.description);
     alert.exec();
 }
 

@@ -94,10 +94,10 @@ SettingsView::SettingsView(WiFiScanner& scanner, UserDefaults& userDefaults, Log
     , m_userDefaults(userDefaults)
     , m_loginItem(loginItem)
     , m_log(log)
-    , m_startAtLogin(new QCheckBox(u"Start at login"_s))
+    , m_startAtLogin(new QCheckBox(tr("Start at login")))
 {
     setObjectName(u"settingsView"_s);
-    setWindowTitle(u"Settings"_s);
+    setWindowTitle(tr("Settings"));
     content().addWidget(makeScanSettings());
     content().addLayout(makeButtons());
 }
@@ -115,7 +115,7 @@ QWidget* SettingsView::makeScanSettings()
     m_startAtLogin->setObjectName(u"startAtLogin"_s);
     connect(m_startAtLogin, &QCheckBox::toggled, this, &SettingsView::setLoginItem);
 
-    auto* box = new TitledBox(u"Scan Settings"_s, settingSpacing);
+    auto* box = new TitledBox(tr("Scan Settings"), settingSpacing);
     box->setSymbol(u"wifi"_s);
     box->rows().addLayout(makeScanInterval());
     box->rows().addLayout(makeHistoryPoints());
@@ -129,14 +129,15 @@ QLayout* SettingsView::makeScanInterval()
     constexpr int maximum = 30;
     return makeBlock(
         {.objectName = u"scanInterval"_s,
-         .title = u"Scan Interval"_s,
+         .title = tr("Scan Interval"),
          .minimum = minimum,
          .maximum = maximum,
          .step = 1,
          .value = static_cast<int>(std::clamp<double>(m_scanner.scanInterval(), minimum, maximum)),
          .texts =
              [](int value) {
-                 return ValueTexts{u"%1s"_s.arg(value), u"%1 seconds"_s.arg(value)};
+                 //: The scan interval beside its slider: seconds, in as little room as there is.
+                 return ValueTexts{tr("%1s").arg(value), tr("%n seconds", nullptr, value)};
              },
          .store = [this](int value) { m_userDefaults.setDouble(value, SettingKeys::scanInterval); }});
 }
@@ -147,24 +148,24 @@ QLayout* SettingsView::makeHistoryPoints()
     constexpr int maximum = 50;
     return makeBlock(
         {.objectName = u"historyLimit"_s,
-         .title = u"History Points"_s,
+         .title = tr("History Points"),
          .minimum = minimum,
          .maximum = maximum,
          .step = 5,
          .value = static_cast<int>(std::clamp<qint64>(m_scanner.historyLimit(), minimum, maximum)),
          .texts =
              [](int value) {
-                 return ValueTexts{u"%1"_s.arg(value), u"%1 points"_s.arg(value)};
+                 return ValueTexts{QString::number(value), tr("%n points", nullptr, value)};
              },
          .store = [this](int value) { m_userDefaults.setInteger(value, SettingKeys::historyLimit); }});
 }
 
 QLayout* SettingsView::makeButtons()
 {
-    auto* cancelButton = new QPushButton(u"Cancel"_s);
+    auto* cancelButton = new QPushButton(tr("Cancel"));
     cancelButton->setObjectName(u"cancel"_s);
     connect(cancelButton, &QPushButton::clicked, this, &SettingsView::reject);
-    auto* saveButton = new QPushButton(u"Save"_s);
+    auto* saveButton = new QPushButton(tr("Save"));
     saveButton->setObjectName(u"save"_s);
     saveButton->setDefault(true);
     connect(saveButton, &QPushButton::clicked, this, &SettingsView::save);

@@ -5,7 +5,7 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 CheckForUpdatesView::CheckForUpdatesView(Updater& updater, QObject* parent)
-    : QAction(u"Check for Updates\u2026"_s, parent), m_checkForUpdatesViewModel(updater), m_updater(updater)
+    : QAction(tr("Check for Updates\u2026"), parent), m_checkForUpdatesViewModel(updater), m_updater(updater)
 {
     setObjectName(u"checkForUpdates"_s);
     connect(this, &QAction::triggered, this, [this] { m_updater.checkForUpdates(); });

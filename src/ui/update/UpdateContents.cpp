@@ -2,13 +2,17 @@
 
 #include "ui/common/PlainText.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpdateContents)
+};
 
 QString shownSize(qint64 bytes)
 {
@@ -38,52 +42,56 @@ struct ContentsOf
 
     UpdateContents operator()(const UpdateChecking&) const
     {
-        return {.heading = u"Checking for updates\u2026"_s, .isBusy = true, .dismiss = u"Cancel"_s};
+        return {.heading = Texts::tr("Checking for updates\u2026"),
+                .isBusy = true,
+                .dismiss = Texts::tr("Cancel")};
     }
 
     UpdateContents operator()(const UpdateUpToDate&) const
     {
-        return {.heading = u"Aerolith is up to date"_s,
-                .message = u"There is nothing newer than version %1."_s.arg(running),
+        return {.heading = Texts::tr("Aerolith is up to date"),
+                .message = Texts::tr("There is nothing newer than version %1.").arg(running),
                 .offersAutomaticChecks = true,
-                .dismiss = u"OK"_s,
+                .dismiss = Texts::tr("OK"),
                 .isOver = true};
     }
 
     UpdateContents operator()(const UpdateAvailable& available) const
     {
-        return {.heading = u"Aerolith %1 is available"_s.arg(shownVersion(available.item)),
-                .message = u"You have version %1. The download is %2."_s.arg(
-                    running, shownSize(available.item.length)),
+        return {.heading = Texts::tr("Aerolith %1 is available").arg(shownVersion(available.item)),
+                .message = Texts::tr("You have version %1. The download is %2.")
+                               .arg(running, shownSize(available.item.length)),
                 .notes = shownNotes(available.item.notes),
                 .offersDownload = true,
                 .offersAutomaticChecks = true,
-                .dismiss = u"Later"_s};
+                .dismiss = Texts::tr("Later")};
     }
 
     UpdateContents operator()(const UpdateDownloading& downloading) const
     {
         const auto& [item, received] = downloading;
-        return {.heading = u"Downloading Aerolith %1\u2026"_s.arg(shownVersion(item)),
-                .message = u"%1 of %2"_s.arg(shownSize(received), shownSize(item.length)),
+        return {.heading = Texts::tr("Downloading Aerolith %1\u2026").arg(shownVersion(item)),
+                .message = Texts::tr("%1 of %2").arg(shownSize(received), shownSize(item.length)),
                 .progress = static_cast<double>(received) / static_cast<double>(item.length),
-                .dismiss = u"Cancel"_s};
+                .dismiss = Texts::tr("Cancel")};
     }
 
     UpdateContents operator()(const UpdateDownloaded& downloaded) const
     {
-        return {.heading = u"Aerolith %1 is downloaded"_s.arg(shownVersion(downloaded.item)),
-                .message = u"Its signature is right. It was saved as\n%1"_s.arg(singleLine(downloaded.path)),
-                .dismiss = u"OK"_s,
+        return {.heading = Texts::tr("Aerolith %1 is downloaded").arg(shownVersion(downloaded.item)),
+                .message =
+                    Texts::tr("Its signature is right. It was saved as\n%1").arg(singleLine(downloaded.path)),
+                .dismiss = Texts::tr("OK"),
                 .isOver = true};
     }
 
     UpdateContents operator()(const UpdateFailed& failed) const
     {
         const bool checking = failed.step == UpdateFailed::Step::check;
-        return {.heading = checking ? u"Updates could not be checked"_s : u"The update was not downloaded"_s,
-                .message = singleLine(failed.error.description) + u'.',
-                .dismiss = u"Close"_s,
+        return {.heading = checking ? Texts::tr("Updates could not be checked")
+                                    : Texts::tr("The update was not downloaded"),
+                .message = Texts::tr("%1.").arg(singleLine(failed.error.description)),
+                .dismiss = Texts::tr("Close"),
                 .isOver = true};
     }
 };

@@ -33,25 +33,25 @@ UpdateDialog::UpdateDialog(AppcastUpdater& updater, QWidget* parent)
     , m_message(new SelectableText(messageSize))
     , m_notes(new QPlainTextEdit)
     , m_progress(new QProgressBar)
-    , m_checkAutomatically(new QCheckBox(u"Check once a day automatically"_s))
+    , m_checkAutomatically(new QCheckBox(tr("Check once a day automatically")))
     , m_dismiss(new QPushButton)
-    , m_download(new QPushButton(u"Download"_s))
+    , m_download(new QPushButton(tr("Download")))
 {
     setObjectName(u"updateDialog"_s);
-    setWindowTitle(u"Software Update"_s);
+    setWindowTitle(tr("Software Update"));
     // The program goes on when this is the only window that can be seen.
     setAttribute(Qt::WA_QuitOnClose, false);
 
     m_message->setObjectName(u"message"_s);
-    m_message->setAccessibleName(u"Details"_s);
+    m_message->setAccessibleName(tr("Details"));
     m_notes->setObjectName(u"notes"_s);
-    m_notes->setAccessibleName(u"What is new"_s);
+    m_notes->setAccessibleName(tr("What is new"));
     m_notes->setFont(Theme::font(m_notes->font(), messageSize));
     m_notes->setReadOnly(true);
     m_notes->setTabChangesFocus(true);
     m_notes->setFixedHeight(notesHeight);
     m_progress->setObjectName(u"progress"_s);
-    m_progress->setAccessibleName(u"Downloaded"_s);
+    m_progress->setAccessibleName(tr("Downloaded"));
     m_progress->setRange(0, progressSteps);
     m_progress->setTextVisible(false);
     m_checkAutomatically->setObjectName(u"checkAutomatically"_s);
@@ -74,7 +74,7 @@ QLayout* UpdateDialog::makeHeading()
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setFont(Theme::font(m_heading->font(), TextStyle::headline));
     m_spinner->setObjectName(u"busy"_s);
-    m_spinner->setAccessibleName(u"Checking"_s);
+    m_spinner->setAccessibleName(tr("Checking"));
 
     auto* row = new QHBoxLayout;
     row->addWidget(m_spinner);

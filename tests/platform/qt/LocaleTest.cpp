@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace aerolith;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ protected:
 private:
     static void clear()
     {
-        for (const char* variable : {"LC_ALL", "LC_COLLATE", "LC_TIME", "LANG"}) {
+        for (const char* variable : {"LC_ALL", "LC_COLLATE", "LC_MESSAGES", "LC_TIME", "LANG", "LANGUAGE"}) {
             qunsetenv(variable);
         }
     }
@@ -36,4 +37,19 @@ TEST_F(LocaleTest, FollowsTheEnvironmentsPrecedence)
     qputenv("LC_ALL", "C.UTF-8");
     EXPECT_EQ(environmentLocale().collation, "en_US");
     EXPECT_FALSE(environmentLocale().timeZone.isEmpty());
+}
+
+TEST_F(LocaleTest, ReadsTheLanguagesOfMessages)
+{
+    EXPECT_EQ(messageLanguages(), QStringList());
+    qputenv("LANGUAGE", "sv:de_AT.UTF-8");
+    EXPECT_EQ(messageLanguages(), QStringList()) << "counts in no locale but another than C";
+    qputenv("LANG", "fr_FR.UTF-8");
+    EXPECT_EQ(messageLanguages(), QStringList({u"sv"_s, u"de_AT"_s}));
+    qputenv("LANGUAGE", "");
+    EXPECT_EQ(messageLanguages(), QStringList(u"fr_FR"_s));
+    qputenv("LC_MESSAGES", "ja_JP.UTF-8");
+    EXPECT_EQ(messageLanguages(), QStringList(u"ja_JP"_s));
+    qputenv("LC_ALL", "C.UTF-8");
+    EXPECT_EQ(messageLanguages(), QStringList());
 }

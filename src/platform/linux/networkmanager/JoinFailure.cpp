@@ -1,10 +1,15 @@
 #include "platform/linux/networkmanager/JoinFailure.h"
 
+#include <QCoreApplication>
+
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
 
 /// The reasons that NetworkManager gives for a device's change of state, by their numbers on the bus.
 enum class Reason : quint32
@@ -37,41 +42,41 @@ QString refusal(const CWNetwork& network)
     const auto provesPasswordEarly =
         network.supportsSecurity(CWSecurity::wpa3Personal) || network.supportsSecurity(CWSecurity::wep);
     return provesPasswordEarly
-               ? u"The network does not let this machine in: the password is probably not correct"_s
-               : u"The network does not let this machine in"_s;
+               ? Texts::tr("The network does not let this machine in: the password is probably not correct")
+               : Texts::tr("The network does not let this machine in");
 }
 
 QString describe(quint32 reason, const CWNetwork& network, bool stillHeard)
 {
     switch (static_cast<Reason>(reason)) {
     case Reason::noSecrets:
-        return takesPassword(network) ? u"The password is not correct"_s
-                                      : u"The login that is stored for the network is not correct"_s;
+        return takesPassword(network) ? Texts::tr("The password is not correct")
+                                      : Texts::tr("The login that is stored for the network is not correct");
     case Reason::ssidNotFound:
-        return stillHeard ? refusal(network) : u"The network is out of reach"_s;
+        return stillHeard ? refusal(network) : Texts::tr("The network is out of reach");
     case Reason::noAddress:
     case Reason::dhcpStart:
     case Reason::dhcpError:
     case Reason::dhcpFailed:
-        return u"The network gave this machine no address"_s;
+        return Texts::tr("The network gave this machine no address");
     case Reason::supplicantDisconnected:
-        return u"The access point broke off the attempt to join"_s;
+        return Texts::tr("The access point broke off the attempt to join");
     case Reason::supplicantTimeout:
-        return u"The access point did not answer in time"_s;
+        return Texts::tr("The access point did not answer in time");
     case Reason::supplicantConfiguration:
     case Reason::supplicantFailed:
-        return u"This machine's Wi-Fi service failed to join the network"_s;
+        return Texts::tr("This machine's Wi-Fi service failed to join the network");
     case Reason::deviceRemoved:
-        return u"The Wi-Fi interface is gone"_s;
+        return Texts::tr("The Wi-Fi interface is gone");
     case Reason::sleeping:
-        return u"Networking was switched off, or the machine went to sleep"_s;
+        return Texts::tr("Networking was switched off, or the machine went to sleep");
     case Reason::profileRemoved:
     case Reason::userRequested:
-        return u"The attempt to join was ended from elsewhere"_s;
+        return Texts::tr("The attempt to join was ended from elsewhere");
     case Reason::otherActivation:
-        return u"Another connection was started meanwhile"_s;
+        return Texts::tr("Another connection was started meanwhile");
     }
-    return u"NetworkManager failed to join the network, for its reason number %1"_s.arg(reason);
+    return Texts::tr("NetworkManager failed to join the network, for its reason number %1").arg(reason);
 }
 
 } // namespace
@@ -81,16 +86,16 @@ Error joinFailure(const ActivationEnd& end, const CWNetwork& network, bool still
     switch (end.outcome) {
     case ActivationOutcome::refused:
         return end.refusal.failure == RemoteFailure::permissionDenied
-                   ? Error{u"The system does not permit this user to join networks"_s}
+                   ? Error{Texts::tr("The system does not permit this user to join networks")}
                    : end.refusal.error();
     case ActivationOutcome::vanished:
-        return {u"NetworkManager ended during the attempt to join"_s};
+        return {Texts::tr("NetworkManager ended during the attempt to join")};
     case ActivationOutcome::stopped:
-        return {u"The attempt to join was stopped"_s};
+        return {Texts::tr("The attempt to join was stopped")};
     case ActivationOutcome::outOfTime:
         return {end.state >= DeviceState::gettingAddress
-                    ? u"The network gave this machine no address in time"_s
-                    : u"Joining the network took too long"_s};
+                    ? Texts::tr("The network gave this machine no address in time")
+                    : Texts::tr("Joining the network took too long")};
     case ActivationOutcome::activated:
     case ActivationOutcome::failed:
         break;

@@ -1,5 +1,6 @@
 #include "platform/linux/networkmanager/RemoteError.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 
 #include <algorithm>
@@ -10,6 +11,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
 
 struct NamedFailure
 {
@@ -46,21 +52,21 @@ QString describe(RemoteFailure failure, const QString& message)
 {
     switch (failure) {
     case RemoteFailure::notRunning:
-        return u"NetworkManager is not running"_s;
+        return Texts::tr("NetworkManager is not running");
     case RemoteFailure::noAnswer:
-        return u"NetworkManager does not answer"_s;
+        return Texts::tr("NetworkManager does not answer");
     case RemoteFailure::permissionDenied:
-        return u"NetworkManager does not permit this: %1"_s.arg(message);
+        return Texts::tr("NetworkManager does not permit this: %1").arg(message);
     case RemoteFailure::notAllowed:
-        return u"NetworkManager cannot do this now: %1"_s.arg(message);
+        return Texts::tr("NetworkManager cannot do this now: %1").arg(message);
     case RemoteFailure::unknownObject:
-        return u"NetworkManager does not know the device: %1"_s.arg(message);
+        return Texts::tr("NetworkManager does not know the device: %1").arg(message);
     case RemoteFailure::wrongAnswer:
-        return u"NetworkManager gave an answer of a wrong type: %1"_s.arg(message);
+        return Texts::tr("NetworkManager gave an answer of a wrong type: %1").arg(message);
     case RemoteFailure::other:
         break;
     }
-    return u"NetworkManager reports an error: %1"_s.arg(message);
+    return Texts::tr("NetworkManager reports an error: %1").arg(message);
 }
 
 } // namespace

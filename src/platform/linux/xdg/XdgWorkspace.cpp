@@ -3,6 +3,7 @@
 #include "platform/linux/xdg/DiagnosticsCommands.h"
 #include "platform/linux/xdg/SettingsCommands.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -12,6 +13,11 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(XdgWorkspace)
+};
 
 Failure startDetached(const QString& program, const QStringList& arguments)
 {
@@ -31,8 +37,8 @@ QList<QStringList> openers(const QString& target)
     return {{u"xdg-open"_s, target}, {u"gio"_s, u"open"_s, target}};
 }
 
-/// The first command whose program is there, as its path. `what` completes "Cannot open ...".
-Result<QStringList> firstInstalled(const QString& what, const QList<QStringList>& commands)
+/// The first command whose program is there, as its path; else the programs that are missing.
+Result<QStringList> firstInstalled(const QList<QStringList>& commands)
 {
     QStringList missing;
     for (const QStringList& command : commands) {
@@ -43,24 +49,21 @@ Result<QStringList> firstInstalled(const QString& what, const QList<QStringList>
         missing.append(command.first());
     }
     missing.removeDuplicates();
-    return Error{u"Cannot open %1: not installed: %2"_s.arg(what, missing.join(u", "_s))};
+    return Error{missing.join(u", "_s)};
 }
 
+/// `what` completes "Cannot open ...".
 Failure startFirst(const QString& what, const QList<QStringList>& commands)
 {
-    const auto command = firstInstalled(what, commands);
-    return command.ok() ? startDetached(command.value().first(), command.value().sliced(1)) : command.error();
+    const auto command = firstInstalled(commands);
+    return command.ok()
+               ? startDetached(command.value().first(), command.value().sliced(1))
+               : Error{u"Cannot open %1: not installed: %2"_s.arg(what, command.error().description)};
 }
 
 QString currentDesktop()
 {
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
-}
-
-const QString& diagnostics()
-{
-    static const QString what = u"a tool for network diagnostics"_s;
-    return what;
 }
 
 } // namespace
@@ -92,13 +95,15 @@ Failure XdgWorkspace::openSettings(SettingsPage page)
 
 Failure XdgWorkspace::openDiagnostics()
 {
-    return startFirst(diagnostics(), diagnosticsCommands(currentDesktop()));
+    return startFirst(u"a tool for network diagnostics"_s, diagnosticsCommands(currentDesktop()));
 }
 
 Failure XdgWorkspace::diagnosticsObstacle() const
 {
-    const auto command = firstInstalled(diagnostics(), diagnosticsCommands(currentDesktop()));
-    return command.ok() ? Failure() : command.error();
+    const auto command = firstInstalled(diagnosticsCommands(currentDesktop()));
+    return command.ok() ? Failure()
+                        : Error{Texts::tr("Cannot open a tool for network diagnostics: not installed: %1")
+                                    .arg(command.error().description)};
 }
 
 } // namespace aerolith
