@@ -535,6 +535,35 @@ Freie Software unter der MIT-Lizenz.</translation>
     </message>
 </context>
 <context>
+    <name>aerolith::Alert</name>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+</context>
+<context>
+    <name>aerolith::Announcer</name>
+    <message>
+        <source>Scan failed</source>
+        <translation>Suche fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Scan finished: 1 network</source>
+        <translation>Suche beendet: 1 Netzwerk</translation>
+    </message>
+    <message numerus="yes">
+        <source>Scan finished: %n networks</source>
+        <translation>
+            <numerusform>Suche beendet: %n Netzwerk</numerusform>
+            <numerusform>Suche beendet: %n Netzwerke</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>aerolith::CheckForUpdatesView</name>
     <message>
         <source>Check for Updates…</source>

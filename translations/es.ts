@@ -535,6 +535,35 @@ Software libre con licencia MIT.</translation>
     </message>
 </context>
 <context>
+    <name>aerolith::Alert</name>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+</context>
+<context>
+    <name>aerolith::Announcer</name>
+    <message>
+        <source>Scan failed</source>
+        <translation>La búsqueda ha fallado</translation>
+    </message>
+    <message>
+        <source>Scan finished: 1 network</source>
+        <translation>Búsqueda terminada: 1 red</translation>
+    </message>
+    <message numerus="yes">
+        <source>Scan finished: %n networks</source>
+        <translation>
+            <numerusform>Búsqueda terminada: %n red</numerusform>
+            <numerusform>Búsqueda terminada: %n redes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>aerolith::CheckForUpdatesView</name>
     <message>
         <source>Check for Updates…</source>

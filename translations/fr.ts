@@ -535,6 +535,35 @@ Logiciel libre sous licence MIT.</translation>
     </message>
 </context>
 <context>
+    <name>aerolith::Alert</name>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+</context>
+<context>
+    <name>aerolith::Announcer</name>
+    <message>
+        <source>Scan failed</source>
+        <translation>Échec de la recherche</translation>
+    </message>
+    <message>
+        <source>Scan finished: 1 network</source>
+        <translation>Recherche terminée&#xa0;: 1 réseau</translation>
+    </message>
+    <message numerus="yes">
+        <source>Scan finished: %n networks</source>
+        <translation>
+            <numerusform>Recherche terminée&#xa0;: %n réseau</numerusform>
+            <numerusform>Recherche terminée&#xa0;: %n réseaux</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>aerolith::CheckForUpdatesView</name>
     <message>
         <source>Check for Updates…</source>

@@ -533,6 +533,34 @@ MIT ライセンスのフリーソフトウェアです。</translation>
     </message>
 </context>
 <context>
+    <name>aerolith::Alert</name>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>aerolith::Announcer</name>
+    <message>
+        <source>Scan failed</source>
+        <translation>スキャンに失敗しました</translation>
+    </message>
+    <message>
+        <source>Scan finished: 1 network</source>
+        <translation>スキャン完了: ネットワーク 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>Scan finished: %n networks</source>
+        <translation>
+            <numerusform>スキャン完了: ネットワーク %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>aerolith::CheckForUpdatesView</name>
     <message>
         <source>Check for Updates…</source>

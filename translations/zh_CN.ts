@@ -533,6 +533,34 @@ Free software under the MIT License.</source>
     </message>
 </context>
 <context>
+    <name>aerolith::Alert</name>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+</context>
+<context>
+    <name>aerolith::Announcer</name>
+    <message>
+        <source>Scan failed</source>
+        <translation>扫描失败</translation>
+    </message>
+    <message>
+        <source>Scan finished: 1 network</source>
+        <translation>扫描完成：1 个网络</translation>
+    </message>
+    <message numerus="yes">
+        <source>Scan finished: %n networks</source>
+        <translation>
+            <numerusform>扫描完成：%n 个网络</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>aerolith::CheckForUpdatesView</name>
     <message>
         <source>Check for Updates…</source>

@@ -67,11 +67,6 @@ class Element:
     def role(self):
         return self.accessible.get_role_name()
 
-    @property
-    def identifier(self):
-        """The object's name in the program, after the last dot of its path."""
-        return (self.accessible.get_accessible_id() or "").rpartition(".")[2]
-
     def has(self, state):
         return self.accessible.get_state_set().contains(state)
 

@@ -1,13 +1,15 @@
 """The program's icon in an X11 tray, and the popover that it opens."""
 
 import contextlib
+import os
 import subprocess
 
 from gi.repository import Atspi
 
 from accessible import PATIENCE, Failure, wait_for
 
-ICON = (1280 - 12, 12)
+ICON = (int(os.environ.get("DESKTOP_SCREEN", "1280x900").split("x")[0]) - 12, 12)
+NAME = "Aerolith"
 CONNECT = "Connect to \u2068{}\u2069, "
 JOINED = "\u2068{}\u2069, joined"
 
@@ -33,7 +35,11 @@ class Popover:
 
     @property
     def window(self):
-        return next((w for w in self.application.children if w.role == "filler" and w.showing), None)
+        return next(iter(self.application.all("dialog", NAME)), None)
+
+    def dialogs(self):
+        """Those beside the popover itself."""
+        return [d for d in self.application.children if d.role in ("dialog", "alert") and d.showing and d.name != NAME]
 
     def rows(self):
         window = self.window
@@ -46,7 +52,7 @@ class Popover:
         """Whether the popover opens, or else a dialog stands in its way."""
         click_at(*ICON)
         with contextlib.suppress(Failure):
-            wait_for("a window", lambda: self.window or self.application.all("dialog"), PATIENCE / 12)
+            wait_for("a window", lambda: self.window or self.dialogs(), PATIENCE / 12)
         return self.window is not None
 
     def open(self):
@@ -81,14 +87,14 @@ class Popover:
     def outcome(self, ssid):
         if self.application.all("dialog", "Connection Failed"):
             return [self.failure()]
-        return None if self.application.all("dialog") else self.joined_outcome(ssid)
+        return None if self.dialogs() else self.joined_outcome(ssid)
 
     def failure(self):
         """What the dialog about a failed join says; closes it."""
         alert = self.application.find("dialog", "Connection Failed")
         told = alert.description
         alert.find("push button", "OK").press()
-        self.application.gone("dialog")
+        wait_for("no dialog", lambda: not self.dialogs())
         return told
 
     def joined_outcome(self, ssid):

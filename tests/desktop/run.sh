@@ -1,6 +1,7 @@
 #!/bin/bash
 # run.sh x11|wayland COMMAND ARGUMENT...: runs a command in a desktop session of its own, with a display, a session bus,
-# the accessibility bus, a window manager and empty settings; none of it is left behind.
+# the accessibility bus, a window manager and empty settings; none of it is left behind. DESKTOP_SCREEN is the screen's
+# size.
 set -euo pipefail
 
 if [ -z "${DESKTOP_SESSION_HOME:-}" ]; then
@@ -21,7 +22,7 @@ case $desktop in
     x11)
         # The server itself finds a display that is free; looking for one first is a race between two sessions.
         mkfifo "$DESKTOP_SESSION_HOME/display"
-        Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$DESKTOP_SESSION_HOME/display" &
+        Xvfb -displayfd 3 -screen 0 "${DESKTOP_SCREEN:-1280x900}x24" -nolisten tcp 3>"$DESKTOP_SESSION_HOME/display" &
         read -r number <"$DESKTOP_SESSION_HOME/display"
         export DISPLAY=:$number
         openbox --sm-disable &

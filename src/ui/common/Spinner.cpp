@@ -1,5 +1,6 @@
 #include "ui/common/Spinner.h"
 
+#include "ui/common/AccessibleRole.h"
 #include "ui/common/Theme.h"
 
 #include <QPainter>
@@ -26,6 +27,7 @@ Spinner::Spinner(QWidget* parent)
           *this, [this] { update(); }, stepInterval)
 {
     setFixedSize(side, side);
+    setAccessibleRole(*this, QAccessible::Animation);
 }
 
 void Spinner::paintEvent(QPaintEvent*)

@@ -1,5 +1,6 @@
 #include "ui/detail/CustomSignalChart.h"
 
+#include "ui/common/AccessibleRole.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/Theme.h"
 
@@ -38,6 +39,7 @@ CustomSignalChart::CustomSignalChart(const SignalChartParameters& parameters, QW
     , m_drawing(this)
     , m_hover([this](const QUuid& id) { repaintDot(id); }, this)
 {
+    setAccessibleRole(*this, QAccessible::Chart);
     nameForAssistance();
     const bool isFull = !parameters.showMiniVersion;
     setMouseTracking(isFull);

@@ -1,5 +1,6 @@
 #include "ui/detail/DetailSection.h"
 
+#include "ui/common/AccessibleRole.h"
 #include "ui/common/Theme.h"
 #include "ui/detail/InfoRowWithTooltip.h"
 
@@ -26,6 +27,7 @@ QLabel* makeTitle(const QString& text)
 DetailSection::DetailSection(const QString& title, QWidget* parent)
     : QWidget(parent), m_stack(new QVBoxLayout(this)), m_rowStack(new QVBoxLayout)
 {
+    setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(title);
     m_stack->setContentsMargins({});
     m_stack->setSpacing(0);

@@ -36,7 +36,10 @@ DetailStatusBar::DetailStatusBar(WiFiScanner& scanner, const DetailSurroundings&
     layOut();
 
     connect(m_export, &SymbolButton::clicked, this, &DetailStatusBar::exportDetails);
-    connect(m_refresh, &SymbolButton::clicked, this, [this] { m_scanner.scanNetworks(); });
+    connect(m_refresh, &SymbolButton::clicked, this, [this] {
+        Q_EMIT refreshRequested();
+        m_scanner.scanNetworks();
+    });
     connect(&m_scanner, &WiFiScanner::statusChanged, &m_publish, &OncePerTurn::request);
     connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
     showState();

@@ -25,6 +25,10 @@ public:
     /// Without a network only the scan is offered.
     void showNetwork(const std::optional<WiFiNetwork>& network);
 
+Q_SIGNALS:
+    /// The user has asked for a scan.
+    void refreshRequested();
+
 private:
     void layOut();
     void exportDetails();

@@ -81,6 +81,7 @@ NetworkDetailView::NetworkDetailView(WiFiScanner& scanner, const DetailSurroundi
     m_chart->setObjectName(u"signalChart"_s);
     m_statusBar->setObjectName(u"detailStatusBar"_s);
     m_signalOverview->setHeader(makeHistory(m_chart));
+    connect(m_statusBar, &DetailStatusBar::refreshRequested, this, &NetworkDetailView::refreshRequested);
 
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins({});

@@ -27,6 +27,10 @@ public:
     /// goes on; another one, or one that is shown again after the view was put away, begins a new chart.
     void showNetwork(const WiFiNetwork& network);
 
+Q_SIGNALS:
+    /// The user has asked for a scan.
+    void refreshRequested();
+
 protected:
     void hideEvent(QHideEvent* event) override;
 

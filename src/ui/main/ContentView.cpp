@@ -1,5 +1,6 @@
 #include "ui/main/ContentView.h"
 
+#include "ui/common/AccessibleRole.h"
 #include "ui/common/Divider.h"
 
 #include <QPainter>
@@ -43,6 +44,7 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
     , m_backdrop(new WavingBackground(scanner))
     , m_surroundings(surroundings.detail)
     , m_publish([this] { showSelected(); })
+    , m_announcer(new Announcer(scanner, m_detailColumn))
 {
     m_sidebar->setObjectName(u"sidebar"_s);
     m_sidebar->setMinimumWidth(narrowestSidebar);
@@ -66,7 +68,9 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
 
 QSplitterHandle* ContentView::createHandle()
 {
-    return new SplitLine(orientation(), this);
+    auto* line = new SplitLine(orientation(), this);
+    setAccessibleRole(*line, QAccessible::Separator);
+    return line;
 }
 
 std::optional<WiFiNetwork> ContentView::selectedNetwork() const
@@ -99,6 +103,7 @@ void ContentView::showSelected()
 {
     const std::optional<WiFiNetwork> network = selectedNetwork();
     if (network) {
+        connect(m_details, &NetworkDetailView::refreshRequested, m_announcer, &Announcer::expect);
         details().showNetwork(*network);
         m_detailColumn->setCurrentWidget(m_details);
     } else {

@@ -3,6 +3,7 @@
 #include "model/WiFiScanner.h"
 #include "ui/common/OncePerTurn.h"
 #include "ui/detail/NetworkDetailView.h"
+#include "ui/main/Announcer.h"
 #include "ui/main/Sidebar.h"
 #include "ui/main/WavingBackground.h"
 #include "ui/main/WindowSurroundings.h"
@@ -53,6 +54,7 @@ private:
     const DetailSurroundings m_surroundings;
     /// Null before the first selection: the window comes up sooner without it.
     NetworkDetailView* m_details = nullptr;
+    Announcer* m_announcer;
     OncePerTurn m_publish;
 };
 

@@ -5,6 +5,9 @@
 #include "ui/common/SymbolView.h"
 
 #include <QComboBox>
+#include <QLabel>
+
+#include <algorithm>
 
 namespace aerolith {
 
@@ -56,7 +59,10 @@ QWidget* SidebarStatusBar::makeSortMenu()
     m_sortMenu->addItem(tr("Security Type"), QVariant::fromValue(SortOption::security));
 
     auto* menu = new QWidget;
-    menu->setFixedWidth(sortMenuWidth);
+    // Assistive technology takes the chosen entry for a menu's name, and its purpose from a label.
+    auto* title = new QLabel(tr("Sort by"), menu);
+    title->setBuddy(m_sortMenu);
+    title->hide();
     auto* titled = new QHBoxLayout(menu);
     titled->setContentsMargins({});
     titled->addWidget(

@@ -17,10 +17,11 @@ constexpr int spacing = 10;
 constexpr int messageSize = 13;
 constexpr int informativeSize = 12;
 
-SelectableText* makeText(const QString& objectName, int pixelSize, const QString& text)
+SelectableText* makeText(const QString& objectName, int pixelSize, const QString& name, const QString& text)
 {
     auto* label = new SelectableText(pixelSize);
     label->setObjectName(objectName);
+    label->setAccessibleName(name);
     label->setPlainText(text);
     label->setFocusPolicy(Qt::ClickFocus);
     return label;
@@ -38,14 +39,14 @@ Alert::Alert(const QString& message, const QString& informativeText)
     // It may be the only window there is, while the icon stands in the tray.
     setAttribute(Qt::WA_QuitOnClose, false);
 
-    SelectableText* messageLabel = makeText(u"message"_s, messageSize, message);
+    SelectableText* messageLabel = makeText(u"message"_s, messageSize, tr("Message"), message);
     QFont bold = messageLabel->font();
     bold.setWeight(QFont::DemiBold);
     messageLabel->setFont(bold);
     m_buttons->setObjectName(u"buttons"_s);
 
     content().addWidget(messageLabel);
-    content().addWidget(makeText(u"informativeText"_s, informativeSize, informativeText));
+    content().addWidget(makeText(u"informativeText"_s, informativeSize, tr("Details"), informativeText));
     content().addWidget(m_buttons);
     m_buttons->button(QDialogButtonBox::Ok)->setFocus();
     connect(m_buttons, &QDialogButtonBox::accepted, this, &Alert::accept);

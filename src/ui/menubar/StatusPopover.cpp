@@ -1,5 +1,6 @@
 #include "ui/menubar/StatusPopover.h"
 
+#include "ui/common/AccessibleRole.h"
 #include "ui/common/Theme.h"
 #include "ui/menubar/PopoverPlace.h"
 
@@ -48,6 +49,7 @@ public:
     {
         setWindowFlags((isWayland() ? Qt::Dialog : Qt::Popup) | Qt::FramelessWindowHint);
         setObjectName(u"statusPopover"_s);
+        setAccessibleRole(*this, QAccessible::Dialog);
         setWindowTitle(u"Aerolith"_s);
         setAttribute(Qt::WA_QuitOnClose, false);
         auto* layout = new QVBoxLayout(this);
