@@ -1,6 +1,7 @@
 #include "app/AerolithApp.h"
 
 #include "app/MainMenu.h"
+#include "app/ReducedMotion.h"
 #include "app/WindowIcon.h"
 #include "app/instance/ShowInFront.h"
 #include "ui/menubar/TrayStatusItem.h"
@@ -35,6 +36,7 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                     [this, &instance] { return instance.isFirst() || m_statusMenu.hasStatusItem(); })
 {
     new WindowIcon(m_mainWindow);
+    new ReducedMotion(m_mainWindow);
     addMainMenu(
         m_mainWindow,
         {.updater = m_updaterController.updater(), .workspace = desktop.workspace, .log = surroundings.log});

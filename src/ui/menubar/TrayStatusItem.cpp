@@ -1,5 +1,8 @@
 #include "ui/menubar/TrayStatusItem.h"
 
+#include <QEvent>
+#include <QGuiApplication>
+
 namespace aerolith {
 
 TrayStatusItem::TrayStatusItem()
@@ -32,11 +35,21 @@ void TrayStatusItem::lookForTray()
 void TrayStatusItem::makeIcon()
 {
     m_icon.emplace();
+    qGuiApp->installEventFilter(this);
     connect(&*m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::Context) {
             Q_EMIT pressed();
         }
     });
+}
+
+/// The image has been handed over in the palette's colours: a bar does not ask for it again by itself.
+bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == qGuiApp) {
+        m_icon->setIcon(m_icon->icon());
+    }
+    return false;
 }
 
 void TrayStatusItem::setImage(const QIcon& image, const QString& accessibilityDescription)

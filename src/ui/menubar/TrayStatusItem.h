@@ -23,6 +23,8 @@ public:
 
     [[nodiscard]] QRect frame() const override { return m_icon ? m_icon->geometry() : QRect(); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void lookForTray();
     void makeIcon();

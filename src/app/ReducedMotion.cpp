@@ -1,0 +1,120 @@
+#include "app/ReducedMotion.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QProxyStyle>
+#include <QTimer>
+#include <QWidget>
+
+namespace aerolith {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Settings = QMap<QString, QVariantMap>;
+
+constexpr auto service = "org.freedesktop.portal.Desktop"_L1;
+constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
+
+constexpr auto standard = "org.freedesktop.appearance"_L1;
+constexpr auto gnome = "org.gnome.desktop.interface"_L1;
+
+class StillStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override
+    {
+        return hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+void setStill(bool still)
+{
+    const auto* over = dynamic_cast<StillStyle*>(QApplication::style());
+    if (still && over == nullptr) {
+        QApplication::setStyle(new StillStyle(QApplication::style()->name()));
+    } else if (!still && over != nullptr) {
+        QApplication::setStyle(over->baseStyle()->name());
+    }
+}
+
+} // namespace
+
+std::optional<bool> reducesMotion(const QString& group, const QString& key, const QVariant& value)
+{
+    if (group == standard && key == "reduced-motion"_L1) {
+        return value.toUInt() == 1;
+    }
+    if (group == gnome && key == "enable-animations"_L1) {
+        return !value.toBool();
+    }
+    return {};
+}
+
+ReducedMotion::ReducedMotion(QWidget& window) : QObject(&window)
+{
+    window.installEventFilter(this);
+}
+
+bool ReducedMotion::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0, this, &ReducedMotion::ask);
+    }
+    return false;
+}
+
+void ReducedMotion::ask()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect(service, path, interface, u"SettingChanged"_s, this,
+                SLOT(handleChange(QString, QString, QDBusVariant)));
+    auto request = QDBusMessage::createMethodCall(service, path, interface, u"ReadAll"_s);
+    request.setArguments({QStringList{standard, gnome}});
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        handleAnswer(*answer);
+        answer->deleteLater();
+    });
+}
+
+/// A desktop without a portal is content with how things are.
+void ReducedMotion::handleAnswer(const QDBusPendingCallWatcher& answer)
+{
+    if (answer.isError()) {
+        return;
+    }
+    const auto settings = qdbus_cast<Settings>(answer.reply().arguments().value(0));
+    for (const auto& group : {standard, gnome}) {
+        const QVariantMap values = settings.value(group);
+        for (auto setting = values.cbegin(); setting != values.cend(); ++setting) {
+            follow(group, setting.key(), setting.value());
+        }
+    }
+}
+
+void ReducedMotion::follow(const QString& group, const QString& key, const QVariant& value)
+{
+    if (const auto reduces = reducesMotion(group, key, value)) {
+        m_wishes[group] = *reduces;
+        setStill(m_wishes.values().contains(true));
+    }
+}
+
+void ReducedMotion::handleChange(const QString& group, const QString& key, const QDBusVariant& value)
+{
+    follow(group, key, value.variant());
+}
+
+} // namespace aerolith

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDBusVariant>
+#include <QHash>
+#include <QObject>
+
+#include <optional>
+
+class QDBusPendingCallWatcher;
+
+namespace aerolith {
+
+/// Keeps every view still, the program's own and the toolkit's, for as long as the desktop asks for reduced
+/// motion: its portal tells, once it is asked and whenever it changes. Main thread.
+///
+/// It is a style over the user's own, which says of every animation that it takes no time. Every view asks
+/// its style.
+class ReducedMotion : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Asks after the first painting of the window, which owns this object: that does not wait for an answer.
+    explicit ReducedMotion(QWidget& window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private Q_SLOTS:
+    void handleChange(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    void ask();
+    void handleAnswer(const QDBusPendingCallWatcher& answer);
+    void follow(const QString& group, const QString& key, const QVariant& value);
+
+    /// What each group of settings asks for, of those that do.
+    QHash<QString, bool> m_wishes;
+};
+
+/// Whether a desktop that has this setting asks for reduced motion; nothing where the setting is about
+/// something else.
+[[nodiscard]] std::optional<bool> reducesMotion(const QString& group, const QString& key,
+                                                const QVariant& value);
+
+} // namespace aerolith
