@@ -132,8 +132,10 @@ void NetworkRowInMenu::paintButton(QPainter& painter, const MenuRowLayout& layou
         Symbols::paint(painter, layout.symbol, u"checkmark.circle.fill"_s, Theme::green(palette));
         return;
     }
-    const QColor secondary =
-        Theme::secondary(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor window = palette.color(QPalette::Window);
+    const QColor tinted = Theme::blended(Theme::secondary(text, window), window, hoveredOpacity);
+    const QColor secondary = Theme::secondary(text, isHovering ? tinted : window);
     if (isHovering || isFocused) {
         painter.setPen(secondary);
         painter.drawText(*layout.connect, Qt::AlignCenter | Qt::TextSingleLine, connectText());

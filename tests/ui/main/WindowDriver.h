@@ -78,12 +78,12 @@ protected:
     DateTexts texts{UserLocale()};
     SavedFiles files;
     FakeDesktop desktop;
-    MainWindow window{*engine.scanner,
-                      {.userDefaults = engine.defaults,
-                       .wifiClient = engine.wifi,
-                       .desktop = desktop.services(),
-                       .log = engine.log,
-                       .detail = {engine.main, texts, files.exporter}}};
+    WindowSurroundings surroundings{.userDefaults = engine.defaults,
+                                    .wifiClient = engine.wifi,
+                                    .desktop = desktop.services(),
+                                    .log = engine.log,
+                                    .detail = {engine.main, texts, files.exporter}};
+    MainWindow window{*engine.scanner, surroundings};
     QListView& list = child<QListView>(QStringLiteral("networkList"));
 };
 

@@ -1,4 +1,5 @@
 #include "support/Printing.h"
+#include "ui/Contrast.h"
 #include "ui/common/Theme.h"
 #include "ui/menubar/NetworkRowInMenu.h"
 
@@ -105,6 +106,24 @@ TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
         NetworkRowInMenu open = plain;
         open.network.security = u"None"_s;
         EXPECT_TRUE(differ(still, picture(open, background), places.symbol)) << "its own lock, always";
+    }
+}
+
+TEST(MenuRow, OffersInReadableWords)
+{
+    constexpr int enlargement = 4;
+    NetworkRowInMenu hovered = row();
+    hovered.isHovering = true;
+    const QRect rect(0, 0, 300, NetworkRowInMenu::height(QApplication::font(), false));
+    const QRectF connect = *hovered.layout(rect, QApplication::font(), Qt::LeftToRight).connect;
+    for (const QColor ground : {QColor(239, 239, 239), QColor(42, 46, 50), QColor(96, 96, 96)}) {
+        QImage image(rect.size() * enlargement, QImage::Format_RGB32);
+        image.setDevicePixelRatio(enlargement);
+        image.fill(ground);
+        QPainter painter(&image);
+        hovered.paint(painter, rect, QPalette(ground), QApplication::font());
+        const QRect place(connect.topLeft().toPoint() * enlargement, connect.size().toSize() * enlargement);
+        EXPECT_GE(contrastWithin(image.copy(place)), Theme::readableContrast) << ground.name().toStdString();
     }
 }
 
