@@ -4,6 +4,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace aerolith {
 
 namespace {
@@ -30,7 +33,13 @@ void Divider::paintEvent(QPaintEvent*)
 
 void Divider::paint(QPainter& painter, const QRect& rect)
 {
-    painter.fillRect(rect, Theme::withOpacity(Theme::gray(), opacity));
+    // In whole pixels of the device: at a fractional scale one divider would be thicker than the next.
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF onDevice = toDevice.mapRect(QRectF(rect));
+    const QRectF sharp(std::round(onDevice.left()), std::round(onDevice.top()),
+                       std::max(1.0, std::round(onDevice.width())),
+                       std::max(1.0, std::round(onDevice.height())));
+    painter.fillRect(toDevice.inverted().mapRect(sharp), Theme::withOpacity(Theme::gray(), opacity));
 }
 
 } // namespace aerolith

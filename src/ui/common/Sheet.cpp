@@ -1,5 +1,7 @@
 #include "ui/common/Sheet.h"
 
+#include "ui/common/Theme.h"
+
 #include <QEvent>
 #include <QVBoxLayout>
 
@@ -12,7 +14,7 @@ constexpr int padding = 16;
 } // namespace
 
 Sheet::Sheet(int width, int spacing, QWidget* parent)
-    : QDialog(parent), m_content(new QVBoxLayout(this)), m_width(width)
+    : QDialog(parent), m_content(new QVBoxLayout(this)), m_width(Theme::scaledToText(width))
 {
     m_content->setContentsMargins(padding, padding, padding, padding);
     m_content->setSpacing(spacing);

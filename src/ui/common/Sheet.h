@@ -6,7 +6,8 @@ class QVBoxLayout;
 
 namespace aerolith {
 
-/// A dialog that belongs to one window: of a fixed width, as tall as what is in it, also when that changes.
+/// A dialog that belongs to one window: of a fixed width for the size of the text, as tall as what is in it,
+/// also when that changes.
 class Sheet : public QDialog
 {
 public:

@@ -15,7 +15,8 @@ constexpr int sidePadding = 12;
 
 StatusBarFrame::StatusBarFrame(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout)
 {
-    setFixedHeight(barHeight);
+    setMinimumHeight(barHeight);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
 

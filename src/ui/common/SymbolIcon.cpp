@@ -24,6 +24,7 @@ public:
     {
         const QPalette palette = m_widget ? m_widget->palette() : QPalette();
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : palette.currentColorGroup();
+        painter->setLayoutDirection(m_widget ? m_widget->layoutDirection() : Qt::LeftToRight);
         Symbols::paint(*painter, rect, m_symbol, palette.color(group, QPalette::ButtonText));
     }
 

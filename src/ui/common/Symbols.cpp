@@ -50,6 +50,15 @@ QPixmap pixmap(const QString& name, int size, const QColor& color, qreal deviceP
     return pixmap;
 }
 
+void mirrorIfPointing(QPainter& painter, const QRectF& frame, const QString& name)
+{
+    const bool points = name == "chevron.left"_L1 || name == "sidebar.left"_L1;
+    if (points && painter.layoutDirection() == Qt::RightToLeft) {
+        painter.translate(2 * frame.center().x(), 0);
+        painter.scale(-1, 1);
+    }
+}
+
 void paint(QPainter& painter, const QRectF& frame, const QString& name, const QColor& color)
 {
     const int size = static_cast<int>(frame.height());
@@ -57,7 +66,10 @@ void paint(QPainter& painter, const QRectF& frame, const QString& name, const QC
     const QPointF corner = frame.center() - QPointF(size, size) / 2;
     // On whole pixels of the device, or it would be resampled.
     const QPointF aligned(std::round(corner.x() * ratio) / ratio, std::round(corner.y() * ratio) / ratio);
+    painter.save();
+    mirrorIfPointing(painter, QRectF(aligned, QSizeF(size, size)), name);
     painter.drawPixmap(aligned, pixmap(name, size, color, ratio));
+    painter.restore();
 }
 
 } // namespace aerolith::Symbols

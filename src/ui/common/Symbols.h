@@ -15,7 +15,12 @@ namespace aerolith::Symbols {
 /// Empty for a name that there is no symbol for.
 [[nodiscard]] QPixmap pixmap(const QString& name, int size, const QColor& color, qreal devicePixelRatio);
 
-/// Draws the symbol into the middle of `frame`, as large as the frame's height.
+/// Exchanges left and right about the middle of `frame` for a symbol that points to a side, where the
+/// painter's layout direction is from right to left.
+void mirrorIfPointing(QPainter& painter, const QRectF& frame, const QString& name);
+
+/// Draws the symbol into the middle of `frame`, as large as the frame's height. One that points to a side
+/// points to the other where the painter's layout direction is from right to left.
 void paint(QPainter& painter, const QRectF& frame, const QString& name, const QColor& color);
 
 } // namespace aerolith::Symbols

@@ -1,5 +1,8 @@
 #include "ui/common/Theme.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <cmath>
 
@@ -82,10 +85,32 @@ double contrast(const QColor& a, const QColor& b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+double textScale()
+{
+    // The desktops' defaults are 9 to 11 points: up to 14.7 of the 96 pixels of an inch.
+    constexpr double largestUsual = 15;
+    constexpr double pointsPerInch = 72;
+    const QFont font = QGuiApplication::font();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dpi = screen != nullptr ? screen->logicalDotsPerInchY() : 96;
+    const double pixels = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dpi / pointsPerInch;
+    return std::max(1.0, pixels / largestUsual);
+}
+
+int scaledToText(int length)
+{
+    return static_cast<int>(std::lround(length * textScale()));
+}
+
+QSize scaledToText(const QSize& size)
+{
+    return {scaledToText(size.width()), scaledToText(size.height())};
+}
+
 QFont font(const QFont& base, int pixelSize, QFont::Weight weight)
 {
     QFont sized = base;
-    sized.setPixelSize(pixelSize);
+    sized.setPixelSize(scaledToText(pixelSize));
     sized.setWeight(weight);
     return sized;
 }

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPalette>
+#include <QSize>
 
 /// Colours and fonts of the views, all derived from the user's own palette and font. The palette is the one
 /// of the widget that is drawn, so that light, dark and a change between them are followed.
@@ -53,7 +54,15 @@ inline constexpr double secondaryOpacity = 0.65;
 /// From 1, no difference, to 21, black on white. Both opaque.
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);
 
-/// The user's family at a size in device-independent pixels.
+/// How many times as large as usual the desktop's text is, where it is larger than any desktop's own default;
+/// else 1. What is given in pixels grows with it: fonts, and what has to hold text.
+[[nodiscard]] double textScale();
+
+[[nodiscard]] int scaledToText(int length);
+
+[[nodiscard]] QSize scaledToText(const QSize& size);
+
+/// The user's family at a size in device-independent pixels, times `textScale()`.
 [[nodiscard]] QFont font(const QFont& base, int pixelSize, QFont::Weight weight = QFont::Normal);
 
 /// The user's family in a text style.

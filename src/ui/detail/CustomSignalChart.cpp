@@ -75,7 +75,8 @@ void CustomSignalChart::startOver()
 QSize CustomSignalChart::sizeHint() const
 {
     const QMargins margins = contentsMargins();
-    const int height = m_parameters.showMiniVersion ? miniHeight : fullHeight;
+    // The values along its edge are text.
+    const int height = m_parameters.showMiniVersion ? miniHeight : Theme::scaledToText(fullHeight);
     return {fullHeight, margins.top() + height + margins.bottom()};
 }
 

@@ -48,8 +48,9 @@ QRectF HoverableDot::readOutBox(const QFont& font) const
     const QStringList lines = readOut();
     const double width = std::max(metrics.horizontalAdvance(lines[0]), metrics.horizontalAdvance(lines[1]));
     const double height = 2 * metrics.height() + lineSpacing;
-    const bool isNearRightEdge = position.x() > totalWidth - 100;
-    return centredOn(position + QPointF(isNearRightEdge ? -boxDistance : boxDistance, 0),
+    const double distance = boxDistance * Theme::textScale();
+    const bool isNearRightEdge = position.x() > totalWidth - 2 * distance;
+    return centredOn(position + QPointF(isNearRightEdge ? -distance : distance, 0),
                      {width + 2 * boxPadding, height + 2 * boxPadding});
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/common/SecondaryLabel.h"
 #include "ui/common/SelectableText.h"
+#include "ui/common/Theme.h"
 
 #include <QHBoxLayout>
 
@@ -21,7 +22,7 @@ InfoRow::InfoRow(const QString& label, const QString& value, QWidget* parent) : 
     labelView->setText(label);
     labelView->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     labelView->setWordWrap(true);
-    labelView->setFixedWidth(labelWidth);
+    labelView->setFixedWidth(Theme::scaledToText(labelWidth));
     auto* valueView = new SelectableText(textSize);
     valueView->setPlainText(value);
     valueView->setAccessibleName(label);

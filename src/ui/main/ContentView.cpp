@@ -2,6 +2,7 @@
 
 #include "ui/common/AccessibleRole.h"
 #include "ui/common/Divider.h"
+#include "ui/common/Theme.h"
 
 #include <QPainter>
 #include <QSplitterHandle>
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QSize least{800, 500};
 /// Room for the items of its status bar.
 constexpr int narrowestSidebar = 284;
 constexpr int usualSidebar = 340;
@@ -42,13 +44,13 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
     , m_sidebar(new Sidebar(scanner, surroundings.userDefaults, surroundings.detail.exporter))
     , m_detailColumn(new QStackedWidget)
     , m_backdrop(new WavingBackground(scanner))
+    , m_announcer(new Announcer(scanner, m_detailColumn))
     , m_surroundings(surroundings.detail)
     , m_publish([this] { showSelected(); })
-    , m_announcer(new Announcer(scanner, m_detailColumn))
 {
     m_sidebar->setObjectName(u"sidebar"_s);
-    m_sidebar->setMinimumWidth(narrowestSidebar);
-    m_sidebar->setMaximumWidth(widestSidebar);
+    m_sidebar->setMinimumWidth(Theme::scaledToText(narrowestSidebar));
+    m_sidebar->setMaximumWidth(Theme::scaledToText(widestSidebar));
     m_backdrop->setObjectName(u"backdrop"_s);
     m_detailColumn->addWidget(m_backdrop);
 
@@ -58,12 +60,18 @@ ContentView::ContentView(WiFiScanner& scanner, const WindowSurroundings& surroun
     setChildrenCollapsible(false);
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
-    setSizes({usualSidebar, width() - usualSidebar});
+    const int sidebar = Theme::scaledToText(usualSidebar);
+    setSizes({sidebar, width() - sidebar});
 
     connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
     connect(&m_scanner.selectionStore(), &SelectionStore::selectedBSSIDChanged, &m_publish,
             &OncePerTurn::request);
     showSelected();
+}
+
+QSize ContentView::minimumSizeHint() const
+{
+    return QSplitter::minimumSizeHint().expandedTo(least);
 }
 
 QSplitterHandle* ContentView::createHandle()
@@ -95,6 +103,7 @@ NetworkDetailView& ContentView::details()
     if (!m_details) {
         m_details = new NetworkDetailView(m_scanner, m_surroundings);
         m_detailColumn->addWidget(m_details);
+        connect(m_details, &NetworkDetailView::refreshRequested, m_announcer, &Announcer::expect);
     }
     return *m_details;
 }
@@ -103,7 +112,6 @@ void ContentView::showSelected()
 {
     const std::optional<WiFiNetwork> network = selectedNetwork();
     if (network) {
-        connect(m_details, &NetworkDetailView::refreshRequested, m_announcer, &Announcer::expect);
         details().showNetwork(*network);
         m_detailColumn->setCurrentWidget(m_details);
     } else {

@@ -35,6 +35,9 @@ public:
     /// What the window is called: the network whose details are shown, or the program.
     [[nodiscard]] QString title() const;
 
+    /// More than the least where words or text are larger than usual.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     void titleChanged(const QString& title);
 
@@ -51,10 +54,10 @@ private:
     Sidebar* m_sidebar;
     QStackedWidget* m_detailColumn;
     WavingBackground* m_backdrop;
+    Announcer* m_announcer;
     const DetailSurroundings m_surroundings;
     /// Null before the first selection: the window comes up sooner without it.
     NetworkDetailView* m_details = nullptr;
-    Announcer* m_announcer;
     OncePerTurn m_publish;
 };
 

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize minimumContent{800, 500};
 constexpr QSize symbolSize{18, 18};
 constexpr int separatorHeight = 16;
 
@@ -51,7 +50,6 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
 {
     setObjectName(u"mainWindow"_s);
     m_content->setObjectName(u"content"_s);
-    m_content->setMinimumSize(minimumContent);
     auto* rows = new QWidget;
     auto* column = new QVBoxLayout(rows);
     column->setContentsMargins({});

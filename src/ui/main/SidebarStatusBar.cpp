@@ -68,6 +68,7 @@ QWidget* SidebarStatusBar::makeSortMenu()
     titled->addWidget(
         new SymbolView(u"arrow.up.arrow.down"_s, sortSymbolSize, SymbolView::Emphasis::secondary));
     titled->addWidget(m_sortMenu, 1);
+    menu->setFixedWidth(std::max(sortMenuWidth, titled->sizeHint().width()));
     return menu;
 }
 

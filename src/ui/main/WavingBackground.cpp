@@ -167,6 +167,7 @@ void WavingBackground::paintSymbol(QPainter& painter) const
     const QPixmap symbol =
         Symbols::pixmap(m_symbol, largest, palette().color(QPalette::WindowText), devicePixelRatioF());
     const double side = symbolSize * symbolScale(m_clock.time());
+    Symbols::mirrorIfPointing(painter, frame, m_symbol);
     painter.drawPixmap(centredSquare(frame.center(), side), symbol, symbol.rect());
 }
 

@@ -1,6 +1,7 @@
 #include "ui/menubar/PasswordDialog.h"
 
 #include "ui/common/PlainText.h"
+#include "ui/common/Theme.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -30,7 +31,7 @@ PasswordDialog::PasswordDialog(const QString& ssid)
     m_field->setObjectName(u"password"_s);
     m_field->setAccessibleName(tr("Network password"));
     m_field->setEchoMode(QLineEdit::Password);
-    m_field->setFixedSize(fieldSize);
+    m_field->setFixedSize(Theme::scaledToText(fieldSize));
     addAccessory(m_field);
 
     buttons().clear();

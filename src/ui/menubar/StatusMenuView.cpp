@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace aerolith {
@@ -70,8 +71,8 @@ StatusMenuView::StatusMenuView(WiFiScanner& scanner, StatusMenuController& statu
     setObjectName(u"statusMenuView"_s);
     setAutoFillBackground(true);
     m_list->setObjectName(u"menuNetworks"_s);
-    m_list->setAccessibleName(u"Networks"_s);
-    m_list->setMaximumHeight(largestListHeight);
+    m_list->setAccessibleName(tr("Networks"));
+    m_list->setMaximumHeight(Theme::scaledToText(largestListHeight));
     m_power->setChecked(m_wasWiFiEnabled);
 
     auto* column = new QVBoxLayout(this);
@@ -135,7 +136,7 @@ QWidget* StatusMenuView::makeToolsMenu()
     tools->setObjectName(u"tools"_s);
     tools->setTitle(tr("Tools"));
     tools->setIconSize(toolsSymbol);
-    tools->setFixedWidth(toolsWidth);
+    tools->setFixedWidth(std::max(toolsWidth, tools->sizeHint().width()));
     tools->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(tools);
     menu->setObjectName(u"toolsMenu"_s);

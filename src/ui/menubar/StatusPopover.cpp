@@ -54,7 +54,7 @@ public:
         setAttribute(Qt::WA_QuitOnClose, false);
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(frameWidth, frameWidth, frameWidth, frameWidth);
-        content->setFixedSize(contentSize);
+        content->setFixedSize(Theme::scaledToText(contentSize));
         layout->addWidget(content);
         layout->setSizeConstraint(QLayout::SetFixedSize);
     }

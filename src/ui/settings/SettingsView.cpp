@@ -62,7 +62,8 @@ QLayout* makeBlock(const Setting& setting)
     auto* shown = new SecondaryLabel(valueSize);
     shown->setObjectName(setting.objectName + "Value"_L1);
     shown->setAlignment(Qt::AlignCenter);
-    shown->setFixedWidth(valueWidth);
+    const int needed = shown->fontMetrics().horizontalAdvance(setting.texts(setting.maximum).shown);
+    shown->setFixedWidth(std::max(valueWidth, needed));
 
     const auto show = [slider, shown, texts = setting.texts](int value) {
         shown->setText(texts(value).shown);

@@ -49,7 +49,7 @@ UpdateDialog::UpdateDialog(AppcastUpdater& updater, QWidget* parent)
     m_notes->setFont(Theme::font(m_notes->font(), messageSize));
     m_notes->setReadOnly(true);
     m_notes->setTabChangesFocus(true);
-    m_notes->setFixedHeight(notesHeight);
+    m_notes->setFixedHeight(Theme::scaledToText(notesHeight));
     m_progress->setObjectName(u"progress"_s);
     m_progress->setAccessibleName(tr("Downloaded"));
     m_progress->setRange(0, progressSteps);
