@@ -1,11 +1,12 @@
 #include "app/ReducedMotion.h"
 
+#include "app/LeanStyle.h"
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QProxyStyle>
 #include <QTimer>
 #include <QWidget>
 
@@ -24,27 +25,23 @@ constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
 constexpr auto standard = "org.freedesktop.appearance"_L1;
 constexpr auto gnome = "org.gnome.desktop.interface"_L1;
 
-class StillStyle : public QProxyStyle
+class StillStyle : public LeanStyle
 {
 public:
-    using QProxyStyle::QProxyStyle;
-
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override
     {
         return hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate
                    ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+                   : LeanStyle::styleHint(hint, option, widget, returnData);
     }
 };
 
 void setStill(bool still)
 {
-    const auto* over = dynamic_cast<StillStyle*>(QApplication::style());
-    if (still && over == nullptr) {
-        QApplication::setStyle(new StillStyle(QApplication::style()->name()));
-    } else if (!still && over != nullptr) {
-        QApplication::setStyle(over->baseStyle()->name());
+    const bool isStill = dynamic_cast<StillStyle*>(QApplication::style()) != nullptr;
+    if (still != isStill) {
+        QApplication::setStyle(still ? new StillStyle : new LeanStyle);
     }
 }
 
@@ -78,8 +75,7 @@ bool ReducedMotion::eventFilter(QObject* watched, QEvent* event)
 void ReducedMotion::ask()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, u"SettingChanged"_s, this,
-                SLOT(handleChange(QString, QString, QDBusVariant)));
+    bus.connect(service, path, interface, u"SettingChanged"_s, this, SLOT(handleChange(QDBusMessage)));
     auto request = QDBusMessage::createMethodCall(service, path, interface, u"ReadAll"_s);
     request.setArguments({QStringList{standard, gnome}});
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
@@ -112,9 +108,13 @@ void ReducedMotion::follow(const QString& group, const QString& key, const QVari
     }
 }
 
-void ReducedMotion::handleChange(const QString& group, const QString& key, const QDBusVariant& value)
+void ReducedMotion::handleChange(const QDBusMessage& signal)
 {
-    follow(group, key, value.variant());
+    const QVariantList arguments = signal.arguments();
+    if (signal.signature() == "ssv"_L1) {
+        follow(arguments[0].toString(), arguments[1].toString(),
+               arguments[2].value<QDBusVariant>().variant());
+    }
 }
 
 } // namespace aerolith

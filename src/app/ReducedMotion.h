@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QHash>
 #include <QObject>
 
@@ -13,8 +13,8 @@ namespace aerolith {
 /// Keeps every view still, the program's own and the toolkit's, for as long as the desktop asks for reduced
 /// motion: its portal tells, once it is asked and whenever it changes. Main thread.
 ///
-/// It is a style over the user's own, which says of every animation that it takes no time. Every view asks
-/// its style.
+/// It is the program's style that says so: of every animation, that it takes no time. Every view asks its
+/// style.
 class ReducedMotion : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:
-    void handleChange(const QString& group, const QString& key, const QDBusVariant& value);
+    void handleChange(const QDBusMessage& signal);
 
 private:
     void ask();
