@@ -79,6 +79,8 @@ TEST_F(ColourSchemeTest, SwitchesWhileTheWindowIsOpen)
     QTest::qWait(1600);
     EXPECT_EQ(dark, fresh.grab().toImage());
     fresh.hide();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     become(m_own);
     EXPECT_EQ(picture(), light);
 }
