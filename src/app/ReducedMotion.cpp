@@ -1,6 +1,6 @@
 #include "app/ReducedMotion.h"
 
-#include "app/LeanStyle.h"
+#include "app/ProgramStyle.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -25,23 +25,11 @@ constexpr auto interface = "org.freedesktop.portal.Settings"_L1;
 constexpr auto standard = "org.freedesktop.appearance"_L1;
 constexpr auto gnome = "org.gnome.desktop.interface"_L1;
 
-class StillStyle : public LeanStyle
-{
-public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* returnData) const override
-    {
-        return hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate
-                   ? 0
-                   : LeanStyle::styleHint(hint, option, widget, returnData);
-    }
-};
-
+// Another style, which a desktop may put in its place, moves as that desktop wants it.
 void setStill(bool still)
 {
-    const bool isStill = dynamic_cast<StillStyle*>(QApplication::style()) != nullptr;
-    if (still != isStill) {
-        QApplication::setStyle(still ? new StillStyle : new LeanStyle);
+    if (auto* style = dynamic_cast<ProgramStyle*>(QApplication::style())) {
+        style->setStill(still);
     }
 }
 

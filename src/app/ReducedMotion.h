@@ -11,10 +11,8 @@ class QDBusPendingCallWatcher;
 namespace aerolith {
 
 /// Keeps every view still, the program's own and the toolkit's, for as long as the desktop asks for reduced
-/// motion: its portal tells, once it is asked and whenever it changes. Main thread.
-///
-/// It is the program's style that says so: of every animation, that it takes no time. Every view asks its
-/// style.
+/// motion: its portal tells, once it is asked and whenever it changes. The application's style is a
+/// ProgramStyle. Main thread.
 class ReducedMotion : public QObject
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
 #include "app/FontConfiguration.h"
-#include "app/LeanStyle.h"
+#include "app/ProgramStyle.h"
 #include "app/Translations.h"
 #include "platform/qt/Locale.h"
 #include "platform/qt/StandardLog.h"
@@ -38,7 +38,7 @@ int run(int argc, char** argv, const std::optional<Simulation>& simulate)
     std::optional<FontConfiguration> fonts(std::in_place);
     const QApplication application(argc, argv);
     displayCheck.reset();
-    QApplication::setStyle(new LeanStyle);
+    QApplication::setStyle(new ProgramStyle);
     const Translations translations(messageLanguages());
     QApplication::setApplicationName(u"Aerolith"_s);
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));

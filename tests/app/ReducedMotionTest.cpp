@@ -1,3 +1,4 @@
+#include "app/ProgramStyle.h"
 #include "app/ReducedMotion.h"
 
 #include "platform/linux/networkmanager/PrivateBus.h"
@@ -69,6 +70,7 @@ TEST(ReducedMotion, FollowsTheDesktopWhileItRuns)
     const PrivateBus bus;
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
     FakePortal portal(bus.address());
+    QApplication::setStyle(new ProgramStyle);
     QWidget window;
     new ReducedMotion(window);
     ASSERT_TRUE(moves());

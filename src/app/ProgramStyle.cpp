@@ -1,4 +1,4 @@
-#include "app/LeanStyle.h"
+#include "app/ProgramStyle.h"
 
 #include "ui/common/PaintedIconEngine.h"
 
@@ -26,8 +26,15 @@ public:
 
 } // namespace
 
-QIcon LeanStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
-                              const QWidget* widget) const
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returnData) const
+{
+    const bool isMotion = hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate;
+    return m_still && isMotion ? 0 : QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                                 const QWidget* widget) const
 {
     return standardIcon == SP_ToolBarHorizontalExtensionButton
                ? QIcon(new ArrowIconEngine)
