@@ -33,8 +33,10 @@ Failure writeFile(const QString& path, const QByteArray& bytes)
         return written ? Failure() : cannotWrite(file);
     }
     QSaveFile file(path);
+    // commit() does not look at what becomes of the last bytes: on a full disk it would put half a file, or
+    // an empty one, in the place of the old one.
     const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     return written ? Failure() : cannotWrite(file);
 }
 

@@ -5,7 +5,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cctype>
 #include <cmath>
@@ -16,6 +19,9 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Milliseconds; another instance holds the lock for much less.
+constexpr int lockPatience = 2'000;
 
 /// Whether the line holds a value of a type that the program does not store, in the form in which Qt stores
 /// types without a text of their own. Of those the program stores 6, a number with a fraction, alone. In any
@@ -100,12 +106,7 @@ void SettingsFile::store(const QString& key, const QVariant& value)
     const std::lock_guard lock(m_mutex);
     m_values.insert(key, value);
     m_unsaved.insert(key, value);
-    auto status = save();
-    if (status == QSettings::FormatError) {
-        // That is how the file was found. Now it is well formed, unless it could not be written.
-        status = save();
-    }
-    const bool failed = status != QSettings::NoError;
+    const bool failed = !save();
     if (!failed) {
         m_unsaved.clear();
     } else if (!m_failureLogged) {
@@ -145,20 +146,44 @@ SettingsFile::Cleaning SettingsFile::removeForeignValues() const
     return writeFile(m_path, lines.join('\n')) ? Cleaning::failed : Cleaning::done;
 }
 
-QSettings::Status SettingsFile::save() const
+bool SettingsFile::save() const
 {
     makeFile();
     makePrivate();
-    if (removeForeignValues() == Cleaning::failed) {
-        return QSettings::AccessError;
+    QLockFile lock(m_path + ".lock"_L1);
+    if (!lock.tryLock(lockPatience) || removeForeignValues() == Cleaning::failed) {
+        return false;
     }
-    // A new object each time: one that has failed once tells of failure ever after.
-    QSettings file(m_path, QSettings::IniFormat);
+    const auto text = completed();
+    return text && !writeFile(m_path, *text);
+}
+
+// On a full disk Qt would put an empty file in the place of the old one, so it is given a copy.
+std::optional<QByteArray> SettingsFile::completed() const
+{
+    const QTemporaryDir folder(m_path + ".XXXXXX"_L1);
+    const QString draft = folder.filePath(u"draft"_s);
+    const QString text = folder.filePath(u"text"_s);
+    if (!QFile::copy(m_path, draft)) {
+        return {};
+    }
+    QSettings meant(draft, QSettings::IniFormat);
     for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved) {
-        file.setValue(unsaved.key(), unsaved.value());
+        meant.setValue(unsaved.key(), unsaved.value());
     }
-    file.sync();
-    return file.status();
+    meant.sync();
+    // By its old name Qt would remember the file as it was meant to be.
+    if (!QFile::rename(draft, text)) {
+        return {};
+    }
+    const QSettings written(text, QSettings::IniFormat);
+    for (const QString& key : meant.allKeys()) {
+        if (written.value(key).toString() != meant.value(key).toString()) {
+            return {};
+        }
+    }
+    QFile file(text);
+    return file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
 }
 
 QString SettingsFile::malformed() const

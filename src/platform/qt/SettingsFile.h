@@ -4,7 +4,6 @@
 #include "platform/UserDefaults.h"
 
 #include <QHash>
-#include <QSettings>
 #include <QVariant>
 
 #include <mutex>
@@ -51,8 +50,10 @@ private:
     void makeFile() const;
     /// Takes the lines out of the file that Qt must not read.
     [[nodiscard]] Cleaning removeForeignValues() const;
-    /// Writes what is not in the file yet.
-    [[nodiscard]] QSettings::Status save() const;
+    /// Writes what is not in the file yet; false when the file is as it was.
+    [[nodiscard]] bool save() const;
+    /// The file's text with that in it; absent where there is no room to make it.
+    [[nodiscard]] std::optional<QByteArray> completed() const;
     [[nodiscard]] QString malformed() const;
     [[nodiscard]] QString accessRefused(QLatin1StringView action) const;
 

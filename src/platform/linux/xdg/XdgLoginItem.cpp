@@ -52,9 +52,10 @@ Failure write(const QString& path, const QByteArray& bytes)
     if (!QDir().mkpath(folder)) {
         return Error{u"Cannot create the folder %1"_s.arg(folder)};
     }
+    // commit() does not look at what becomes of the last bytes.
     QSaveFile file(path);
     const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     return written ? Failure() : failed("write"_L1, file);
 }
 
