@@ -1,5 +1,6 @@
 #include "platform/linux/networkmanager/ScanPermission.h"
 
+#include "platform/linux/networkmanager/BusEnd.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/InteractiveCall.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
@@ -9,7 +10,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 
+#include <chrono>
 #include <limits>
 #include <org.freedesktop.NetworkManager.Device.Wireless.h>
 #include <org.freedesktop.NetworkManager.h>
@@ -18,9 +21,11 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto retryInterval = 2s;
 constexpr int firstReadTimeoutMilliseconds = 1'000;
 constexpr int readTimeoutMilliseconds = 25'000;
 // As long as the user takes to find the password; in D-Bus the largest value means no limit.
@@ -28,23 +33,32 @@ constexpr int askTimeoutMilliseconds = std::numeric_limits<int>::max();
 
 } // namespace
 
+struct ScanPermission::Link
+{
+    explicit Link(const BusAddress& address)
+        : bus(address)
+        , end(bus)
+        , serviceWatcher(NetworkManager::serviceName, bus.connection())
+        , manager(NetworkManager::serviceName, NetworkManager::objectPath, bus.connection())
+        , polkit(bus.connection())
+    {
+    }
+
+    BusConnection bus;
+    BusEnd end;
+    QDBusServiceWatcher serviceWatcher;
+    OrgFreedesktopNetworkManagerInterface manager;
+    /// Some versions of NetworkManager (1.42) keep polkit's changes to themselves.
+    PolkitAuthority polkit;
+};
+
 ScanPermission::ScanPermission(const BusAddress& address, std::function<void()> changed)
-    : m_bus(address)
-    , m_changed(std::move(changed))
-    , m_serviceWatcher(NetworkManager::serviceName, m_bus.connection())
-    , m_calls(std::make_unique<QObject>())
+    : m_address(address), m_changed(std::move(changed)), m_calls(std::make_unique<QObject>())
 {
     registerDBusTypes();
-    m_manager = std::make_unique<OrgFreedesktopNetworkManagerInterface>(
-        NetworkManager::serviceName, NetworkManager::objectPath, m_bus.connection());
-    QObject::connect(m_manager.get(), &OrgFreedesktopNetworkManagerInterface::CheckPermissions, m_calls.get(),
-                     [this] { read(); });
-    // Some versions of NetworkManager (1.42) keep polkit's changes to themselves.
-    m_polkit = std::make_unique<PolkitAuthority>(m_bus.connection());
-    QObject::connect(m_polkit.get(), &PolkitAuthority::Changed, m_calls.get(), [this] { read(); });
-    QObject::connect(
-        &m_serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, m_calls.get(),
-        [this](const QString&, const QString&, const QString& owner) { setRunning(!owner.isEmpty()); });
+    m_retry.setInterval(retryInterval);
+    QObject::connect(&m_retry, &QTimer::timeout, m_calls.get(), [this] { connectAgain(); });
+    connectToBus();
     readFirst();
 }
 
@@ -53,13 +67,47 @@ ScanPermission::~ScanPermission()
     m_calls.reset();
 }
 
+void ScanPermission::connectToBus()
+{
+    m_link = std::make_unique<Link>(m_address);
+    if (!m_link->bus.connection().isConnected()) {
+        m_retry.start();
+        return;
+    }
+    m_retry.stop();
+    QObject::connect(&m_link->end, &BusEnd::reached, m_calls.get(), [this] {
+        setRunning(false);
+        m_retry.start();
+    });
+    QObject::connect(&m_link->manager, &OrgFreedesktopNetworkManagerInterface::CheckPermissions,
+                     m_calls.get(), [this] { read(); });
+    QObject::connect(&m_link->polkit, &PolkitAuthority::Changed, m_calls.get(), [this] { read(); });
+    QObject::connect(
+        &m_link->serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, m_calls.get(),
+        [this](const QString&, const QString&, const QString& owner) { setRunning(!owner.isEmpty()); });
+}
+
+void ScanPermission::connectAgain()
+{
+    connectToBus();
+    if (isServiceRegistered()) {
+        setRunning(true);
+    }
+}
+
+bool ScanPermission::isServiceRegistered() const
+{
+    const auto* bus = m_link->bus.connection().interface();
+    return bus != nullptr && bus->isServiceRegistered(NetworkManager::serviceName).value();
+}
+
 void ScanPermission::ask()
 {
     if (m_state != State::undecided || m_asking) {
         return;
     }
     m_asking = true;
-    watch(m_manager->GetDevices(), [this](const QDBusPendingCall& call) {
+    watch(m_link->manager.GetDevices(), [this](const QDBusPendingCall& call) {
         const QDBusPendingReply<QList<QDBusObjectPath>> reply = call;
         QStringList paths;
         if (!reply.isError()) {
@@ -81,7 +129,7 @@ void ScanPermission::askDevices(const QStringList& paths)
     const auto message = interactiveCall(
         paths.first(), OrgFreedesktopNetworkManagerDeviceWirelessInterface::staticInterfaceName(),
         u"RequestScan"_s, {scanOptions({})});
-    watch(m_bus.connection().asyncCall(message, askTimeoutMilliseconds),
+    watch(m_link->bus.connection().asyncCall(message, askTimeoutMilliseconds),
           [this, others = paths.mid(1)](const QDBusPendingCall& call) {
               if (!call.isError()) {
                   decide(true);
@@ -108,13 +156,12 @@ void ScanPermission::decide(bool granted)
 
 void ScanPermission::readFirst()
 {
-    const auto* bus = m_bus.connection().interface();
-    m_running = bus != nullptr && bus->isServiceRegistered(NetworkManager::serviceName).value();
+    m_running = isServiceRegistered();
     if (m_running) {
-        m_manager->setTimeout(firstReadTimeoutMilliseconds);
-        auto reply = m_manager->GetPermissions();
+        m_link->manager.setTimeout(firstReadTimeoutMilliseconds);
+        auto reply = m_link->manager.GetPermissions();
         reply.waitForFinished();
-        m_manager->setTimeout(readTimeoutMilliseconds);
+        m_link->manager.setTimeout(readTimeoutMilliseconds);
         if (reply.isError() && remoteError(reply.error()).failure == RemoteFailure::noAnswer) {
             read();
         } else {
@@ -126,7 +173,7 @@ void ScanPermission::readFirst()
 
 void ScanPermission::read()
 {
-    watch(m_manager->GetPermissions(), [this, number = ++m_reads](const QDBusPendingCall& call) {
+    watch(m_link->manager.GetPermissions(), [this, number = ++m_reads](const QDBusPendingCall& call) {
         if (number == m_reads) {
             take(call);
             update();

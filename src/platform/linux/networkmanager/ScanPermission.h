@@ -2,31 +2,28 @@
 
 #include "platform/linux/networkmanager/BusConnection.h"
 
-#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
 #include <optional>
 
-class OrgFreedesktopNetworkManagerInterface;
 class QDBusObjectPath;
 class QDBusPendingCall;
 class QDBusPendingCallWatcher;
 
 namespace aerolith {
 
-class PolkitAuthority;
-
-/// Whether NetworkManager lets this user scan for Wi-Fi networks, followed as it changes. Main thread; needs
-/// its event loop.
+/// Whether NetworkManager lets this user scan for Wi-Fi networks, followed as it changes, also over the end
+/// of the bus and its new beginning. Main thread; needs its event loop.
 class ScanPermission
 {
 public:
     enum class State
     {
-        /// Also where no NetworkManager runs: there is nobody to refuse.
+        /// Also where no NetworkManager runs, or no bus: there is nobody to refuse.
         granted,
         /// The user has to prove who they are first, or NetworkManager has not answered yet.
         undecided,
@@ -57,8 +54,14 @@ private:
         no
     };
 
+    /// What a connection to the bus carries.
+    struct Link;
+
     using Finished = std::function<void(const QDBusPendingCall&)>;
 
+    void connectToBus();
+    void connectAgain();
+    [[nodiscard]] bool isServiceRegistered() const;
     void readFirst();
     void read();
     void take(const QDBusPendingCall& call);
@@ -70,11 +73,11 @@ private:
     [[nodiscard]] State derivedState() const;
     void watch(const QDBusPendingCall& call, const Finished& finished);
 
-    BusConnection m_bus;
+    const BusAddress m_address;
     std::function<void()> m_changed;
-    QDBusServiceWatcher m_serviceWatcher;
-    std::unique_ptr<OrgFreedesktopNetworkManagerInterface> m_manager;
-    std::unique_ptr<PolkitAuthority> m_polkit;
+    std::unique_ptr<Link> m_link;
+    /// Runs while there is no bus.
+    QTimer m_retry;
     bool m_running = false;
     Answer m_answer = Answer::unread;
     /// What the user's proof came to, while the answer is `authentication`.

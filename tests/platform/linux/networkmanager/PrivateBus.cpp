@@ -6,30 +6,39 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-PrivateBus::PrivateBus()
+PrivateBus::PrivateBus() : m_address(u"unix:path="_s + m_directory.filePath(u"bus"_s))
 {
-    const auto configurationPath = m_directory.filePath(u"bus.conf"_s);
-    QFile configuration(configurationPath);
+    QFile configuration(m_directory.filePath(u"bus.conf"_s));
     if (!configuration.open(QIODevice::WriteOnly)) {
         return;
     }
     configuration.write(
-        u"<busconfig><listen>unix:dir=%1</listen><policy context='default'>"
+        u"<busconfig><listen>%1</listen><policy context='default'>"
         "<allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/></policy></busconfig>"_s
-            .arg(m_directory.path())
+            .arg(m_address)
             .toUtf8());
     configuration.close();
-    m_daemon.start(QStringLiteral(DBUS_DAEMON),
-                   {u"--nofork"_s, u"--print-address"_s, u"--config-file=%1"_s.arg(configurationPath)});
-    if (m_daemon.waitForReadyRead()) {
-        m_address = QString::fromUtf8(m_daemon.readLine().trimmed());
-    }
+    begin();
 }
 
 PrivateBus::~PrivateBus()
 {
-    m_daemon.terminate();
+    end();
+}
+
+void PrivateBus::begin()
+{
+    m_daemon.start(QStringLiteral(DBUS_DAEMON), {u"--nofork"_s, u"--print-address"_s,
+                                                 u"--config-file="_s + m_directory.filePath(u"bus.conf"_s)});
+    // It tells its address once it listens there.
+    m_daemon.waitForReadyRead();
+}
+
+void PrivateBus::end()
+{
+    m_daemon.kill();
     m_daemon.waitForFinished();
+    QFile::remove(m_directory.filePath(u"bus"_s));
 }
 
 } // namespace aerolith

@@ -6,7 +6,7 @@
 
 namespace aerolith {
 
-/// A message bus of the test's own, ended with the object.
+/// A message bus of the test's own, running from the object's beginning to its end.
 class PrivateBus
 {
 public:
@@ -15,8 +15,12 @@ public:
     PrivateBus& operator=(const PrivateBus&) = delete;
     ~PrivateBus();
 
-    /// Empty when the bus did not start.
+    /// Where it is while it runs.
     [[nodiscard]] const QString& address() const { return m_address; }
+
+    /// Ends it as a process that is killed, and begins it again at the same address.
+    void end();
+    void begin();
 
 private:
     QTemporaryDir m_directory;

@@ -90,6 +90,29 @@ TEST_F(ScanPermissionTest, followsThePermissionAndTheService)
     EXPECT_EQ(m_changes, 4);
 }
 
+TEST_F(ScanPermissionTest, findsTheBusAgain)
+{
+    startFake(u"no"_s);
+    start();
+    m_bus.end();
+    EXPECT_TRUE(becomes(State::granted)) << "nobody there to refuse";
+    m_bus.begin();
+    startFake(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused));
+    m_fake->setScanPermission(u"auth"_s);
+    EXPECT_TRUE(becomes(State::undecided));
+    m_permission->ask();
+    EXPECT_TRUE(becomes(State::granted));
+    EXPECT_EQ(m_changes, 4);
+
+    m_permission.reset();
+    m_bus.end();
+    start();
+    m_bus.begin();
+    startFake(u"no"_s);
+    EXPECT_TRUE(becomes(State::refused)) << "there was none at the start";
+}
+
 TEST_F(ScanPermissionTest, tellsOnlyOfRealChanges)
 {
     startFake(u"yes"_s);
