@@ -154,6 +154,9 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
     if (!manager.isRunning()) {
         return Error{Texts::tr("NetworkManager is not running")};
     }
+    if (auto silence = manager.awaitAnswer()) {
+        return silence;
+    }
     const auto device = manager.device(name);
     if (!device.ok()) {
         return device.error();

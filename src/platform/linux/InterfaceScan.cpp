@@ -44,6 +44,9 @@ Result<ChosenService> chooseService(LinuxWireless& wireless, const InterfaceInfo
     if (!manager.isRunning()) {
         return kernelService(wireless, info, u"NetworkManager is not running"_s);
     }
+    if (auto silence = manager.awaitAnswer()) {
+        return *silence;
+    }
     const auto device = manager.device(info.name);
     if (!device.ok()) {
         return device.error();

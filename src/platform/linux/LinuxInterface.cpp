@@ -6,11 +6,19 @@
 #include "platform/linux/ieee80211/Ssid.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
 
+#include <chrono>
 #include <utility>
 
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto longestLook = 1s;
+
+} // namespace
 
 LinuxInterface::LinuxInterface(std::shared_ptr<LinuxWireless> wireless, QString name)
     : m_wireless(std::move(wireless)), m_name(std::move(name))
@@ -64,7 +72,8 @@ std::optional<QList<CWChannel>> LinuxInterface::supportedWLANChannels() const
 
 bool LinuxInterface::powerOn() const
 {
-    const NetworkManager manager(m_wireless->bus);
+    // Windows wait for this, at the start too.
+    const NetworkManager manager(m_wireless->bus, longestLook);
     if (manager.isRunning()) {
         if (const auto switches = manager.radioSwitches(); switches.ok()) {
             return switches.value().on();
@@ -78,6 +87,9 @@ Failure LinuxInterface::setPower(bool on)
     const NetworkManager manager(m_wireless->bus);
     if (!manager.isRunning()) {
         return Error{u"NetworkManager is not running"_s};
+    }
+    if (auto silence = manager.awaitAnswer()) {
+        return silence;
     }
     const auto switches = manager.radioSwitches();
     if (on && switches.ok() && !switches.value().hardwareEnabled) {

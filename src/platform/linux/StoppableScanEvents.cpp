@@ -1,8 +1,8 @@
 #include "platform/linux/StoppableScanEvents.h"
 
-#include <QCoreApplication>
+#include "platform/linux/networkmanager/MainThread.h"
+
 #include <QEventLoop>
-#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -23,8 +23,7 @@ constexpr int handled = 1;
 /// application quits.
 bool keepWindowsAlive()
 {
-    const auto* application = QCoreApplication::instance();
-    if (application == nullptr || application->thread() != QThread::currentThread()) {
+    if (!isMainThread()) {
         return true;
     }
     QEventLoop loop;

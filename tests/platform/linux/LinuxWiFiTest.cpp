@@ -11,13 +11,17 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <linux/nl80211.h>
+
+#include <functional>
 
 namespace aerolith {
 namespace {
@@ -320,6 +324,34 @@ TEST_F(LinuxWiFiTest, switchesTheRadioOrSaysWhyNot)
     m_fake->on(u"Set NetworkManager.WirelessEnabled"_s, refuse(permissionDenied));
     EXPECT_EQ(m_interface->setPower(false)->description,
               u"The system does not permit this user to switch the Wi-Fi radio"_s);
+}
+
+TEST_F(LinuxWiFiTest, windowsStayAliveWhileNetworkManagerHangs)
+{
+    startNetworkManager();
+    m_fake->on(u"Get NetworkManager.WirelessEnabled"_s, [](const QDBusMessage& call) {
+        QThread::msleep(1500);
+        return call.createErrorReply(QDBusError::NoReply, {});
+    });
+    int turns = 0;
+    QTimer turn;
+    QObject::connect(&turn, &QTimer::timeout, [&] { ++turns; });
+    turn.start(50ms);
+    CWNetwork network;
+    network.bssid = u"02:00:00:00:00:01"_s;
+    network.ssidData = "home"_ba;
+    for (const auto& wait : std::initializer_list<std::function<QString()>>{
+             [&] { return failure(); },
+             [&] { return m_interface->associateToNetwork(network, {})->description; },
+             [&] { return m_interface->setPower(false)->description; }}) {
+        turns = 0;
+        EXPECT_EQ(wait(), u"NetworkManager does not answer"_s);
+        EXPECT_GE(turns, 10);
+    }
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_TRUE(m_interface->powerOn());
+    EXPECT_LT(elapsed.elapsed(), 1400) << "the program's start waits for it";
 }
 
 } // namespace

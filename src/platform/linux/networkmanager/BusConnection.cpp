@@ -18,7 +18,10 @@ QDBusConnection connectTo(const BusAddress& address)
 
 } // namespace
 
-BusConnection::BusConnection(const BusAddress& address) : m_connection(connectTo(address)) {}
+BusConnection::BusConnection(const BusAddress& address, std::chrono::milliseconds callLimit)
+    : m_callLimit(callLimit), m_connection(connectTo(address))
+{
+}
 
 BusConnection::~BusConnection()
 {

@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 namespace aerolith {
@@ -15,8 +16,10 @@ using BusAddress = std::optional<QString>;
 class BusConnection
 {
 public:
+    static constexpr std::chrono::milliseconds usualCallLimit = std::chrono::seconds(25);
+
     /// Blocks until the bus has answered.
-    explicit BusConnection(const BusAddress& address);
+    explicit BusConnection(const BusAddress& address, std::chrono::milliseconds callLimit = usualCallLimit);
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
     ~BusConnection();
@@ -24,7 +27,11 @@ public:
     /// Not connected when the bus cannot be reached: every call on it then fails.
     [[nodiscard]] const QDBusConnection& connection() const { return m_connection; }
 
+    /// How long a call may wait for its answer.
+    [[nodiscard]] std::chrono::milliseconds callLimit() const { return m_callLimit; }
+
 private:
+    const std::chrono::milliseconds m_callLimit;
     QDBusConnection m_connection;
 };
 

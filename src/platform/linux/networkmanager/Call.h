@@ -9,8 +9,9 @@
 
 namespace aerolith {
 
-/// One call to an object of NetworkManager, through the proxy of one of its interfaces; ends within 25
-/// seconds. One per call: a proxy keeps the error of an earlier call after a later one that succeeded.
+/// One call to an object of NetworkManager, through the proxy of one of its interfaces; ends within the
+/// connection's limit. One per call: a proxy keeps the error of an earlier call after a later one that
+/// succeeded.
 template <typename Proxy>
 class Call
 {
@@ -18,7 +19,7 @@ public:
     Call(const BusConnection& bus, const QString& path)
         : m_proxy(NetworkManager::serviceName, path, bus.connection())
     {
-        m_proxy.setTimeout(timeoutMilliseconds);
+        m_proxy.setTimeout(static_cast<int>(bus.callLimit().count()));
     }
 
     Proxy& proxy() { return m_proxy; }
@@ -31,8 +32,6 @@ public:
     }
 
 private:
-    static constexpr int timeoutMilliseconds = 25'000;
-
     Proxy m_proxy;
 };
 

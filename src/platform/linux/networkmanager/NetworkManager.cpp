@@ -2,8 +2,10 @@
 
 #include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
+#include "platform/linux/networkmanager/MainThread.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -34,7 +36,8 @@ constexpr auto switchPollInterval = 50ms;
 const QString NetworkManager::serviceName = u"org.freedesktop.NetworkManager"_s;
 const QString NetworkManager::objectPath = u"/org/freedesktop/NetworkManager"_s;
 
-NetworkManager::NetworkManager(const BusAddress& address) : m_bus(address)
+NetworkManager::NetworkManager(const BusAddress& address, std::chrono::milliseconds callLimit)
+    : m_bus(address, callLimit)
 {
     registerDBusTypes();
 }
@@ -45,6 +48,26 @@ bool NetworkManager::isRunning() const
 {
     const auto* bus = m_bus.connection().interface();
     return bus != nullptr && bus->isServiceRegistered(serviceName).value();
+}
+
+Failure NetworkManager::awaitAnswer() const
+{
+    if (!isMainThread()) {
+        return {};
+    }
+    auto question = QDBusMessage::createMethodCall(serviceName, objectPath,
+                                                   u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question << QString::fromLatin1(ManagerProxy::staticInterfaceName()) << u"WirelessEnabled"_s;
+    const QDBusPendingCallWatcher answer(
+        m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count())));
+    QEventLoop loop;
+    QObject::connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    // Also returns when the application quits.
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!answer.isFinished()) {
+        return Error{u"NetworkManager has not answered yet"_s};
+    }
+    return answer.isError() ? Failure(remoteError(answer.error()).error()) : Failure();
 }
 
 Result<RadioSwitches> NetworkManager::radioSwitches() const

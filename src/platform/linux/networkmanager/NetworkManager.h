@@ -48,19 +48,25 @@ struct ManagedDevice
     quint32 reason = 0;
 };
 
-/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most 25
-/// seconds. To be made and used on the same thread; but for setWirelessEnabled() it needs no event loop.
+/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most for the
+/// limit given. To be made and used on the same thread; but for setWirelessEnabled() it needs no event loop.
 class NetworkManager
 {
 public:
     static const QString serviceName;
     static const QString objectPath;
 
-    explicit NetworkManager(const BusAddress& address);
+    explicit NetworkManager(const BusAddress& address,
+                            std::chrono::milliseconds callLimit = BusConnection::usualCallLimit);
     ~NetworkManager();
 
     /// Also false when there is no bus.
     [[nodiscard]] bool isRunning() const;
+
+    /// On the main thread, waits for NetworkManager to answer any question and handles the thread's events
+    /// meanwhile, all but the user's input: before the first operation there, which would stop all windows
+    /// where NetworkManager hangs. The error is that it has not answered. On other threads it does nothing.
+    [[nodiscard]] Failure awaitAnswer() const;
 
     [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
 
