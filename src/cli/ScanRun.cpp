@@ -40,19 +40,37 @@ void ScanRun::endCycle()
     if (m_ended) {
         return;
     }
-    if (m_scanner.status() == ScannerStatus::scanning) {
+    if (lastOutcome() != RunOutcome::noInterface) {
+        ++m_cyclesEnded;
+        m_onCycle();
+    } else if (m_cyclesEnded > 0) {
+        ++m_cyclesMissed;
+    } else {
         end(RunOutcome::noInterface);
-        return;
     }
-    ++m_cyclesEnded;
-    m_onCycle();
-    if (m_cyclesEnded == m_cycles) {
-        end(m_scanner.status() == ScannerStatus::error ? RunOutcome::lastCycleFailed : RunOutcome::completed);
+    if (m_cyclesEnded + m_cyclesMissed == m_cycles) {
+        end(lastOutcome());
+    }
+    if (m_ended) {
         return;
     }
     const Seconds elapsed = std::chrono::milliseconds(m_sinceStart.elapsed());
     m_surroundings.mainQueue.asyncAfter(std::max(Seconds(0), m_interval - elapsed),
                                         m_lifeline.guarded([this] { startCycle(); }));
+}
+
+/// A cycle that found no interface leaves the status as it was when it began.
+RunOutcome ScanRun::lastOutcome() const
+{
+    switch (m_scanner.status()) {
+    case ScannerStatus::scanning:
+        return RunOutcome::noInterface;
+    case ScannerStatus::error:
+        return RunOutcome::lastCycleFailed;
+    case ScannerStatus::idle:
+        break;
+    }
+    return RunOutcome::completed;
 }
 
 void ScanRun::end(RunOutcome outcome)

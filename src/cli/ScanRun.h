@@ -19,14 +19,15 @@ enum class RunOutcome
     completed,
     /// The last cycle failed; the scanner's error says why.
     lastCycleFailed,
-    /// A cycle found no interface, and the run ended with it.
+    /// The first cycle, which ends the run then, or the last one found no interface.
     noInterface,
     /// Somebody ended it.
     interrupted,
 };
 
 /// Runs a number of scan cycles through a scanner of its own, once the location authorization is decided: at
-/// an interval from start to start, or one right after the other where a cycle takes longer. Main thread.
+/// an interval from start to start, or one right after the other where a cycle takes longer. An interface
+/// that goes away may come back. Main thread.
 class ScanRun
 {
 public:
@@ -38,7 +39,7 @@ public:
 
     [[nodiscard]] WiFiScanner& scanner() { return m_scanner; }
 
-    /// The cycles that have ended, those that failed included.
+    /// The cycles that have ended, those that failed included, but not those that found no interface.
     [[nodiscard]] int cyclesEnded() const { return m_cyclesEnded; }
 
     /// Ends the run now; a cycle that is under way does not count.
@@ -47,6 +48,7 @@ public:
 private:
     void startCycle();
     void endCycle();
+    [[nodiscard]] RunOutcome lastOutcome() const;
     void end(RunOutcome outcome);
 
     Surroundings m_surroundings;
@@ -58,6 +60,8 @@ private:
     std::function<void()> m_onCycle;
     std::function<void(RunOutcome)> m_onEnd;
     int m_cyclesEnded = 0;
+    /// Those that found no interface, while it was away.
+    int m_cyclesMissed = 0;
     bool m_started = false;
     bool m_ended = false;
     QElapsedTimer m_sinceStart;

@@ -82,13 +82,22 @@ TEST_F(ScanRunTest, RunsItsCyclesAtTheIntervalAndJudgesTheLast)
     EXPECT_EQ(m_outcome, RunOutcome::lastCycleFailed);
 }
 
-TEST_F(ScanRunTest, EndsWhenTheInterfaceIsGone)
+TEST_F(ScanRunTest, WaitsForAnInterfaceThatHasGone)
 {
-    start(3, 1.0);
+    start(4, 1.0);
+    m_location.change(CLAuthorizationStatus::authorizedAlways);
+    for (const bool present : {true, false, true, false}) {
+        EXPECT_FALSE(m_outcome);
+        m_wifi.setPresent(present);
+        EXPECT_TRUE(performCycle());
+        m_main.advance(Seconds(1));
+    }
+    EXPECT_EQ(m_run->cyclesEnded(), 2);
+    EXPECT_EQ(m_outcome, RunOutcome::noInterface) << "the last cycle's";
+
+    m_outcome.reset();
+    start(4, 1.0);
     m_location.change(CLAuthorizationStatus::authorizedAlways);
     EXPECT_TRUE(performCycle());
-    m_wifi.setPresent(false);
-    m_main.advance(Seconds(1));
-    EXPECT_TRUE(performCycle());
-    EXPECT_EQ(m_outcome, RunOutcome::noInterface);
+    EXPECT_EQ(m_outcome, RunOutcome::noInterface) << "a machine that has none";
 }
