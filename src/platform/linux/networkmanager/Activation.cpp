@@ -55,6 +55,7 @@ Activation::Activation(const NetworkManager& manager, QString devicePath, std::c
     , m_agent(manager.bus())
     , m_serviceWatcher(NetworkManager::serviceName, manager.bus().connection(),
                        QDBusServiceWatcher::WatchForUnregistration)
+    , m_busEnd(manager.bus())
 {
     auto bus = m_manager.bus().connection();
     bus.connect(NetworkManager::serviceName, m_devicePath,
@@ -64,6 +65,7 @@ Activation::Activation(const NetworkManager& manager, QString devicePath, std::c
                 u"StateChanged"_s, this, SLOT(activeStateChanged(uint, uint, QDBusMessage)));
     connect(&m_serviceWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
             [this] { finish(ActivationOutcome::vanished); });
+    connect(&m_busEnd, &BusEnd::reached, this, [this] { finish(ActivationOutcome::vanished); });
 }
 
 ActivationEnd Activation::activate(const QString& profilePath, const QString& accessPointPath,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/networkmanager/BusEnd.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/DecliningAgent.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
@@ -30,7 +31,7 @@ enum class ActivationOutcome
     refused,
     outOfTime,
     stopped,
-    /// NetworkManager has left the bus.
+    /// NetworkManager has left the bus, or the bus has ended.
     vanished,
 };
 
@@ -102,6 +103,7 @@ private:
     const std::chrono::milliseconds m_timeLimit;
     DecliningAgent m_agent;
     QDBusServiceWatcher m_serviceWatcher;
+    BusEnd m_busEnd;
     QEventLoop m_loop;
     QDeadlineTimer m_deadline = QDeadlineTimer::Forever;
     /// The newest state of every active connection that has changed: the answer, which says which is ours,

@@ -129,6 +129,11 @@ TEST_F(ActivationTest, tellsRefusedFromVanished)
     // The main thread's timers run while it waits.
     QTimer::singleShot(200ms, [this] { m_fake->end(); });
     EXPECT_EQ(activateNew().outcome, vanished);
+
+    m_fake.emplace(m_bus.address());
+    m_fake->setActivation({{40, 0}}, 0);
+    QTimer::singleShot(200ms, [this] { m_bus.end(); });
+    EXPECT_EQ(activateNew(10s).outcome, vanished) << "with its bus";
 }
 
 TEST_F(ActivationTest, keepsOtherAgentsFromAskingForAnotherPassword)
