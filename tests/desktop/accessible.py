@@ -2,6 +2,7 @@
 
 import contextlib
 import os
+import pathlib
 import signal
 import subprocess
 import sys
@@ -177,6 +178,13 @@ def click(element):
     """The pointer's first button in the middle of an element."""
     x, y = element.centre()
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+
+
+def store_settings(**values):
+    """What a program that is started afterwards finds as the user's settings."""
+    path = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "aerolith", "aerolith.conf")
+    path.parent.mkdir()
+    path.write_text("[General]\n" + "".join(f"{key}={value}\n" for key, value in values.items()))
 
 
 class Program:

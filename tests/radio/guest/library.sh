@@ -116,13 +116,18 @@ hostapd_asks() { among_radios hostapd_cli -p /run/hostapd -i "$@"; }
 
 access_point_runs() { hostapd_asks "$1" status | grep -q '^state=ENABLED'; }
 
-# start_access_points: every one of the plan, each radio at its signal strength (which the kernel takes as an
-# unsigned number only) and with its address.
-start_access_points() {
-    local number file files
+# set_signals: each radio's strength, which the kernel takes as an unsigned number only.
+set_signals() {
+    local number
     for number in $(seq "$RADIOS"); do
         printf %u "${RX_RSSI[$number]}" >"/sys/kernel/debug/ieee80211/phy$number/hwsim/rx_rssi"
     done
+}
+
+# start_access_points: every one of the plan, each radio at its signal strength and with its address.
+start_access_points() {
+    local number file files
+    set_signals
     for number in "${!ADDRESSES[@]}"; do among_radios ip link set "wlan$number" address "${ADDRESSES[$number]}"; done
     # In the order of their numbers: hostapd listens to its neighbours before it uses 40 MHz.
     mapfile -t files < <(printf '%s\n' /out/plan/wlan*.conf | sort -V)

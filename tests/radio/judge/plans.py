@@ -44,7 +44,18 @@ WINDOW = Plan((
     ), rx_rssi=-55),
 ))
 
-PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT")}
+
+def plain(channel: int, names: tuple[str, ...], settings: str = "", **more) -> Radio:
+    mode, letters = ("a", "a n") if channel > 14 else ("g", "b g n")
+    return Radio(f"hw_mode={mode};ieee80211n=1", channel, 20, letters,
+                 tuple(AccessPoint(f"{channel} {name}".encode(), settings) for name in names), **more)
+
+
+# Several radios, so that some can be away at any time, and several access points each.
+SOAK = Plan(tuple(plain(channel, ("Library", "Workshop", "Café", "Office", "Guests"), rx_rssi=-40 - channel // 4)
+                  for channel in (1, 6, 11, 36, 48, 149)))
+
+PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK}
 
 
 def main(scenario: str, folder: Path) -> None:

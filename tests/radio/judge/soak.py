@@ -1,0 +1,96 @@
+"""Judges what scenarios/soak.sh has left: run with the results folder; exit status 1 when there is a fault."""
+
+import csv
+import json
+import statistics
+import sys
+from pathlib import Path
+
+from steps import Faults, Step
+
+SETTLED = 300  # seconds until everything that is made once has been made
+MEMORY = 0.02  # of the level at that time
+# Means of a third of an hour's cycles. The processor that they are measured on is an emulated one that others slow
+# down; the yardstick takes out most of that, not all. A cost that grows with every cycle would double in less time.
+PROCESSOR = 0.15
+INTERVAL = 5  # seconds from scan to scan
+
+
+class Stretch:
+    """Some consecutive samples."""
+
+    def __init__(self, samples: list[dict]) -> None:
+        self.samples = samples
+
+    def all(self, column: str) -> list[float]:
+        return [sample[column] for sample in self.samples]
+
+    def gained(self, column: str) -> float:
+        return self.samples[-1][column] - self.samples[0][column]
+
+    def processor_per_cycle(self) -> float:
+        """In yardsticks, as many as fit into the time that one cycle takes."""
+        return self.gained("processor") / self.gained("cycles") / statistics.mean(self.all("yardstick"))
+
+
+def read(path: Path) -> list[dict]:
+    with path.open(encoding="utf-8") as file:
+        return [{column: float(value) for column, value in row.items()} for row in csv.DictReader(file)]
+
+
+def judge_program(name: str, samples: list[dict], faults: Faults) -> None:
+    duration = samples[-1]["seconds"]
+    settled = [sample for sample in samples if sample["seconds"] >= min(SETTLED, duration / 4)]
+    third = len(settled) // 3
+    first, last, whole = Stretch(settled[:third]), Stretch(settled[-third:]), Stretch(settled)
+
+    level = statistics.median(whole.all("resident")[:5])
+    least, most = min(whole.all("resident")), max(whole.all("resident"))
+    print(f"{name}: resident {level / 1024:.1f} MiB when settled, then {least / level - 1:+.2%} to "
+          f"{most / level - 1:+.2%}; anonymous {whole.all('anonymous')[0] / 1024:.1f} MiB, "
+          f"at the end {whole.gained('anonymous'):+.0f} KiB")
+    faults.expect(most <= level * (1 + MEMORY) and least >= level * (1 - MEMORY), f"{name}: memory leaves its level")
+
+    # A scan opens some and closes them: what there is between two scans is what may not grow.
+    for column in ("descriptors", "threads"):
+        before, after = min(first.all(column)), min(last.all(column))
+        print(f"{name}: {column} {before:.0f} in the first third, {after:.0f} in the last "
+              f"(most: {max(whole.all(column)):.0f})")
+        faults.expect(after <= before, f"{name}: {column} grow")
+
+    before, after = first.processor_per_cycle(), last.processor_per_cycle()
+    seconds = whole.gained("processor") / whole.gained("cycles")
+    print(f"{name}: {whole.gained('cycles'):.0f} cycles in {whole.gained('seconds'):.0f} s, {1000 * seconds:.0f} ms of "
+          f"the emulated processor each; by the yardstick {before:.4f} in the first third, {after:.4f} in the last "
+          f"({after / before - 1:+.1%})")
+    faults.expect(after <= before * (1 + PROCESSOR), f"{name}: a cycle takes more and more")
+    faults.expect(whole.gained("cycles") >= whole.gained("seconds") / INTERVAL / 2, f"{name}: cycles are missing")
+
+
+def judge_coming_and_going(lines: list[str], faults: Faults) -> None:
+    """Of each access point, how often it was heard again after a cycle in which it was not, by the scanner's lines."""
+    returns: dict[str, int] = {}
+    heard: dict[str, bool] = {}
+    for line in lines:
+        if line.startswith("{"):
+            record = json.loads(line)
+            bssid = record["bssid"]
+            returns[bssid] = returns.get(bssid, 0) + (record["heard"] and not heard.get(bssid, True))
+            heard[bssid] = record["heard"]
+    print(f"{len(returns)} access points came back {sum(returns.values())} times")
+    faults.expect(bool(returns) and min(returns.values()) > 0, f"some never left: {returns}")
+
+
+def main(results: Path) -> int:
+    faults = Faults()
+    step = Step(results, "soak")
+    if faults.expect(step.status == 0, f"exit status {step.status}: {step.message}"):
+        for name in ("window", "scanner"):
+            judge_program(name, read(step.folder / f"{name}.csv"), faults)
+        judge_coming_and_going(step.text("scanner.log").splitlines(), faults)
+    print(f"{faults.count} faults")
+    return 1 if faults.count else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(Path(sys.argv[1])))
