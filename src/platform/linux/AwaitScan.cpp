@@ -36,15 +36,18 @@ BootTime earliestStart(BootTime end, std::optional<BootTime> before)
     return std::max(end - longestScan, before.value_or(BootTime::min()));
 }
 
-/// The same for the newest scan that the service knows of, unless that is too long ago. `before` is what it
-/// knew when the wait began.
-std::optional<BootTime> newestScan(ScanService& service, BootTime begun, std::optional<BootTime> before)
+/// The same for the newest scan that the service knows of, unless that is too long ago or has heard nothing:
+/// NetworkManager also counts what was none, as where the supplicant below it hangs. `before` is what it knew
+/// when the wait began.
+std::optional<BootTime> newestScan(ScanService& service, BootTime begun, std::optional<BootTime> before,
+                                   const Heard& heard)
 {
     const auto lastScan = service.lastScan();
     if (!lastScan || *lastScan <= begun - startLimit) {
         return {};
     }
-    return lastScan == before ? *lastScan - usualScan : earliestStart(*lastScan, before);
+    const auto since = lastScan == before ? *lastScan - usualScan : earliestStart(*lastScan, before);
+    return heard(since) ? std::optional(since) : std::nullopt;
 }
 
 } // namespace
@@ -70,7 +73,7 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, Bo
             if (auto obstacle = service.obstacle()) {
                 return *obstacle;
             }
-            if (const auto newest = newestScan(service, begun, before)) {
+            if (const auto newest = newestScan(service, begun, before, heard)) {
                 return *newest;
             }
             if (deadline == lastDeadline) {

@@ -12,7 +12,8 @@
 
 namespace aerolith {
 
-/// Whether an access point of the name that is scanned for has been heard since, as far as is remembered.
+/// Whether an access point has been heard since, of the name that is scanned for if it is for one, as far as
+/// is remembered.
 using Heard = std::function<bool(nl80211::BootTime since)>;
 
 /// Asks for a scan and waits for its end: 15 seconds for its start, as the service may put it off, and 30 in
@@ -23,8 +24,8 @@ using Heard = std::function<bool(nl80211::BootTime since)>;
 /// the name. A name that has been heard lately is looked for by a full scan first; then it is asked for until
 /// it has been heard or two scans have asked in vain. A scan that was broken off answers nothing. Where no
 /// scan begins in time, the newest one that the service knows of has to do, unless it is older than those 15
-/// seconds: then one may be under way, which has until the end of the 30. None by then, like an obstacle that
-/// turns up meanwhile, is an error.
+/// seconds or has heard nothing: then one may be under way, which has until the end of the 30. None by then,
+/// like an obstacle that turns up meanwhile, is an error.
 [[nodiscard]] Result<nl80211::BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events,
                                                   nl80211::BootTime begun,
                                                   const std::optional<QByteArray>& ssid, const Heard& heard);

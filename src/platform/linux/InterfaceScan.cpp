@@ -121,7 +121,7 @@ Result<QList<CWNetwork>> scanInterface(LinuxWireless& wireless, const QString& n
         return events.error();
     }
     StoppableScanEvents stoppable(events.value(), wireless.stopped);
-    const auto heard = [&](nl80211::BootTime since) { return wireless.isHeard(name, *ssid, since); };
+    const auto heard = [&](nl80211::BootTime since) { return wireless.isHeard(name, ssid, since); };
     const auto heardSince = awaitScan(*chosen.value().service, stoppable, begun, ssid, heard);
     if (!heardSince.ok()) {
         return heardSince.error();

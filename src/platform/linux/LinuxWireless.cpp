@@ -41,7 +41,8 @@ QList<nl80211::BssEntry> LinuxWireless::entries(const QString& interfaceName)
     return entries.ok() ? entries.value() : QList<nl80211::BssEntry>();
 }
 
-bool LinuxWireless::isHeard(const QString& interfaceName, const QByteArray& ssid, nl80211::BootTime since)
+bool LinuxWireless::isHeard(const QString& interfaceName, const std::optional<QByteArray>& ssid,
+                            nl80211::BootTime since)
 {
     const auto dumped = nl80211::bootTimeNow();
     return !nl80211::sightings(entries(interfaceName), since, dumped, ssid).isEmpty();

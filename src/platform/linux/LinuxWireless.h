@@ -39,7 +39,8 @@ struct LinuxWireless
     [[nodiscard]] QList<nl80211::BssEntry> entries(const QString& interfaceName);
 
     /// Whether the interface has heard an access point of that network since then.
-    [[nodiscard]] bool isHeard(const QString& interfaceName, const QByteArray& ssid, nl80211::BootTime since);
+    [[nodiscard]] bool isHeard(const QString& interfaceName, const std::optional<QByteArray>& ssid,
+                               nl80211::BootTime since);
 };
 
 } // namespace aerolith

@@ -96,7 +96,7 @@ protected:
     }
 
     FakeService m_service;
-    /// When the name that is scanned for was last heard.
+    /// When an access point, of the name that is scanned for, was last heard.
     std::optional<BootTime> m_heard;
     QString m_error;
 };
@@ -115,7 +115,7 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
     m_service.lastScans = {begun - 3s};
     EXPECT_EQ(await({finished}), begun - 3s) << "it began after the one before had ended";
 
-    EXPECT_EQ(await({finished}, "x"_ba), begun - 13s) << "the newest scan has to do";
+    EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
 }
 
 TEST_F(AwaitScanTest, aScanForANameEndsWhereTheNameIsHeard)
@@ -164,9 +164,13 @@ TEST_F(AwaitScanTest, anAbortedScanAnswersNothing)
 TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
 {
     m_service.lastScans = {begun - 7s};
+    m_heard = begun - 17s;
     EXPECT_EQ(await({}), begun - 17s);
     EXPECT_EQ(await({started}), begun - 17s);
+    m_service.lastScans = {begun + 3s};
+    EXPECT_EQ(await({}), std::nullopt) << "what has heard nothing was no scan";
 
+    m_heard = begun;
     m_service.lastScans = {begun - 40s, begun + 14s};
     EXPECT_EQ(await({}), begun - 6s) << "a long one has just ended";
     m_service.lastScans = {begun - 3s, begun + 14s};
