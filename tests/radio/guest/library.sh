@@ -47,8 +47,12 @@ mount_system_folders() {
 start_system_services() {
     /lib/systemd/systemd-udevd --daemon # without it NetworkManager leaves devices unmanaged
     ip link set lo up
+    start_bus
+}
+
+start_bus() {
     dbus-daemon --system --fork
-    /usr/lib/polkit-1/polkitd --no-debug >/run/polkitd.log 2>&1 &
+    /usr/lib/polkit-1/polkitd --no-debug >>/run/polkitd.log 2>&1 &
     wait_for 90 busctl --system status org.freedesktop.PolicyKit1
 }
 
@@ -207,11 +211,19 @@ unmanaged-devices=interface-name:*,except:interface-name:wlan0
 [device]
 wifi.scan-rand-mac-address=no
 CONFIGURATION
-    wpa_supplicant -u -B -s -f /run/wpa_supplicant.log
-    NetworkManager --debug --config /run/NetworkManager.conf >/run/NetworkManager.log 2>&1 &
-    NETWORK_MANAGER=$!
-    wait_for 90 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"
+    start_supplicant
+    run_network_manager
 }
+
+start_supplicant() { wpa_supplicant -u -B -s -f /run/wpa_supplicant.log; }
+
+run_network_manager() {
+    NetworkManager --debug --config /run/NetworkManager.conf >>/run/NetworkManager.log 2>&1 &
+    NETWORK_MANAGER=$!
+    station_is_managed
+}
+
+station_is_managed() { wait_for 90 station_state_is_at_least 30 || give_up "NetworkManager does not manage wlan0"; }
 
 # network_manager_lives: gives up where it does not; nothing that we ask of it may end it.
 network_manager_lives() { kill -0 "$NETWORK_MANAGER" 2>/dev/null || give_up "NetworkManager has died"; }

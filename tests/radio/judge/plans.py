@@ -55,14 +55,21 @@ def plain(channel: int, names: tuple[str, ...], settings: str = "", **more) -> R
 SOAK = Plan(tuple(plain(channel, ("Library", "Workshop", "Café", "Office", "Guests"), rx_rssi=-40 - channel // 4)
                   for channel in (1, 6, 11, 36, 48, 149)))
 
-PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK}
+FAULTS = Plan((
+    plain(1, ("Library",), f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}", role="joined"),
+    plain(6, ("Workshop", "Café")),
+    plain(36, ("Office", "Guests"), rx_rssi=-80),
+))
+
+PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK,
+         "faults": FAULTS}
 
 
 def main(scenario: str, folder: Path) -> None:
     PLANS[scenario].write(folder)
     with (folder / "plan.sh").open("a") as plan:
         plan.write(f"PASSWORD='{PASSWORD}'\n")
-    if scenario == "crowd":
+    if scenario in ("crowd", "faults"):
         crowd.make(folder / "crowd")
     (folder / "eap.users").write_text('* PEAP\n"alice" MSCHAPV2 "wonderland" [2]\n')
 

@@ -1,0 +1,140 @@
+"""Judges what scenarios/faults.sh has left: run with the results folder; exit status 1 when there is a fault."""
+
+import csv
+import json
+import re
+import sys
+from itertools import pairwise
+from pathlib import Path
+
+from plans import FAULTS
+from settings import PASSWORD
+from steps import Faults, Step, unix_time
+
+# What the log has to say while the fault lasts, or at its end.
+WORDS = {
+    "manager": r"Scan failed: .*NetworkManager is not running",
+    "supplicant": r"Scan failed: The Wi-Fi interface wlan0 is not available",
+    "radio": r"No WiFi interface found",
+    "bus": r"Scan failed: .*NetworkManager is not running",
+    "hang": r"Scan failed: NetworkManager does not answer",
+    "endless": r"Scan failed: The Wi-Fi scan did not end in time",
+}
+# Seconds until a window on an emulated machine answers; one that waits for a service takes 25. With a thousand access
+# points the machine's own services leave little of it.
+RESPONSIVE, RESPONSIVE_IN_CROWD = 8.0, 20.0
+STOPPED = "stall"  # the fault that stops the programs themselves
+
+
+class Fault:
+    """When one began, was ending, mended and recovered from (seconds since boot), and what the programs said."""
+
+    def __init__(self, name: str, marks: dict[str, list[float]], logs: dict[str, list[str]]) -> None:
+        self.name, self._marks, self._logs = name, marks, logs
+
+    def time(self, stage: str) -> float:
+        return self._marks[stage][0]
+
+    def said(self, program: str, since: str, until: str) -> list[str]:
+        place = 1 + list(self._logs).index(program)
+        return self._logs[program][int(self._marks[since][place]):int(self._marks[until][place])]
+
+
+def read_faults(results: Path, logs: dict[str, list[str]]) -> list[Fault]:
+    marks: dict[str, dict[str, list[float]]] = {}
+    for line in (results / "marks.txt").read_text().splitlines():
+        time, name, stage, *said = line.split()
+        marks.setdefault(name, {})[stage] = [float(time), *map(float, said)]
+    return [Fault(name, stages, logs) for name, stages in marks.items()]
+
+
+def judge_log(fault: Fault, program: str, faults: Faults) -> None:
+    lines = fault.said(program, "begun", "mended")
+    if pattern := WORDS.get(fault.name):
+        faults.expect(any(re.match(pattern, line) for line in lines), f"{fault.name}: {program} does not tell: {lines}")
+    if (fault.name, program) == ("bus", "window"):
+        # Permission is taken away and given again, as soon as there is a bus.
+        permission = [line.split()[2].strip(".") for line in lines if line.startswith("Location access ")]
+        faults.expect(permission[-2:] == ["denied", "granted"], f"bus: {program} knows of its permission {permission}")
+    lines = fault.said(program, "mended", "recovered")
+    begun = next((at for at, line in enumerate(lines) if line.startswith("Starting network scan")), len(lines))
+    end = next((line for line in lines[begun:] if line.startswith(("Found ", "Scan failed", "No WiFi"))), None)
+    faults.expect(end is not None and end.startswith("Found "),
+                  f"{fault.name}: {program}'s next cycle ends with {end!r}: {lines}")
+
+
+def judge_pulse(fault: Fault, pulse: list[dict], faults: Faults) -> None:
+    since = fault.time("mended" if fault.name == STOPPED else "begun")
+    # An answer that was asked for while the program was stopped is none of its own.
+    during = [beat for beat in pulse
+              if since <= beat["time"] - beat["seconds"] and beat["time"] <= fault.time("recovered")]
+    slowest = max((beat["seconds"] for beat in during), default=None)
+    least = min((beat["networks"] for beat in during), default=0)
+    print(f"{fault.name}: {fault.time('ending') - fault.time('begun'):.0f} s, a scan "
+          f"{fault.time('recovered') - fault.time('mended'):.0f} s after it was mended; the window answered "
+          f"{len(during)} times, in {slowest} s at most, and listed {least:.0f} networks or more")
+    limit = RESPONSIVE_IN_CROWD if fault.name == "crowd" else RESPONSIVE
+    faults.expect(slowest is not None and slowest <= limit, f"{fault.name}: the window has not answered in time")
+    faults.expect(least >= len(list(FAULTS.every_access_point())), f"{fault.name}: the window has lost networks")
+
+
+def judge_cycles(lines: list[str], faults: Faults) -> None:
+    """Every cycle lists whatever the one before listed, and the last one hears all that there is."""
+    cycles: dict[int, dict[str, bool]] = {}
+    for line in lines:
+        record = json.loads(line)
+        cycles.setdefault(record["cycle"], {})[record["bssid"]] = record["heard"]
+    for (_, before), (number, after) in pairwise(cycles.items()):
+        faults.expect(not before.keys() - after.keys(), f"cycle {number} has lost {before.keys() - after.keys()}")
+    listed = list(cycles.values())[-1]
+    silent = [address for address, _, _ in FAULTS.every_access_point() if not listed.get(address)]
+    faults.expect(not silent, f"in the end {silent} are not heard")
+    print(f"{len(cycles)} cycles, {len(listed)} access points in the last")
+
+
+def judge_join(step: Step, faults: Faults) -> None:
+    print(f"join: {step.status} after {step.ended - step.begun:.1f} s: {step.message}; "
+          f"then {step.text('device.txt')!r}")
+    faults.expect(step.status == 1 and "NetworkManager" in step.message, f"join: {step.message!r} does not say why")
+    faults.expect(not step.text("profiles.txt"), "join: a profile was left behind")
+    faults.expect(PASSWORD not in step.text("stdout") + step.text("stderr"), "join: the password was told")
+
+
+def judge_history(step: Step, faults: Faults) -> None:
+    """Three cycles, eight seconds apart; the clock is a day ahead at the second."""
+    history = step.document("details.json")["signalHistory"]
+    gaps = [round(after - before, 1) for before, after in pairwise(map(unix_time, history))]
+    print(f"clock: the samples are {gaps} s apart, by the clock")
+    faults.expect(len(gaps) == 2 and all(abs(gap - 8 - jump) < 8 for gap, jump in zip(gaps, (86400, -86400))),
+                  f"clock: the history is {history}")
+
+
+def main(results: Path) -> int:
+    faults = Faults()
+    watch, window = (Step(results, name) for name in ("watch", "window"))
+    for step in (watch, window):
+        faults.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}")
+    with (window.folder / "pulse.csv").open() as file:
+        pulse = [{column: float(value) for column, value in row.items()} for row in csv.DictReader(file)]
+    logs = {"watch": watch.text("stderr").splitlines(), "window": window.text("log").splitlines()}
+    for fault in read_faults(results, logs):
+        for program in logs:
+            judge_log(fault, program, faults)
+        judge_pulse(fault, pulse, faults)
+        if fault.name == "join":
+            judge_join(Step(results, "join"), faults)
+        if fault.name == "clock":
+            judge_history(Step(results, "history"), faults)
+        if fault.name == "crowd":
+            found = [line for line in fault.said("watch", "begun", "mended") if line.startswith("Found ")]
+            print(f"crowd: at most {max(int(line.split()[1]) for line in found)} in one scan")
+    for program, lines in logs.items():
+        # Access points that are on the air have not all gone just because no scan took place.
+        faults.expect("Found 0 networks" not in lines, f"{program} has taken a scan that failed for an empty air")
+    judge_cycles(watch.text("stdout").splitlines(), faults)
+    print(f"{faults.count} faults")
+    return 1 if faults.count else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(Path(sys.argv[1])))
