@@ -6,6 +6,7 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 from accessible import key, wait_for
+from gi.repository import Atspi
 from popover import Popover, tray
 
 TRANSLATIONS = pathlib.Path(__file__).resolve().parents[2] / "translations"
@@ -40,7 +41,9 @@ class Views:
     @contextlib.contextmanager
     def dialog(self, opened):
         opened()
-        yield wait_for("a dialog", self.popover.dialogs)[0]
+        dialog = wait_for("a dialog", self.popover.dialogs)[0]
+        yield dialog
+        wait_for("the keyboard in the dialog", lambda: dialog.has(Atspi.StateType.ACTIVE))
         key("Escape")
         wait_for("no dialog", lambda: not self.popover.dialogs())
 
