@@ -34,16 +34,21 @@ bool keepWindowsAlive()
 } // namespace
 
 StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> events,
-                                         const std::atomic<bool>& stopped)
-    : m_events(std::move(events)), m_stopped(stopped)
+                                         const std::atomic<bool>& stopped, nl80211::BootTime longestStall)
+    : m_events(std::move(events)), m_stopped(stopped), m_longestStall(longestStall)
 {
 }
 
 Result<std::optional<ScanEvent>> StoppableScanEvents::wait(Deadline deadline)
 {
+    auto lastTurn = nl80211::bootTimeNow();
     while (!m_stopped && keepWindowsAlive()) {
         const auto turn = std::min(deadline, Deadline::clock::now() + interval);
         const auto event = m_events->wait(turn);
+        const auto now = nl80211::bootTimeNow();
+        if (now - std::exchange(lastTurn, now) > m_longestStall) {
+            return Error{u"The machine or the program stood still during the Wi-Fi scan"_s};
+        }
         if (!event.ok() || event.value() || turn == deadline) {
             return event;
         }

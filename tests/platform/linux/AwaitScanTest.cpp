@@ -1,6 +1,7 @@
 #include "platform/linux/AwaitScan.h"
 
 #include "platform/linux/LastScanEvents.h"
+#include "platform/linux/StoppableScanEvents.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -198,6 +199,16 @@ TEST_F(AwaitScanTest, aRefusalOrLostEventsEndTheWait)
     m_service.refusal.reset();
     events.failure = Error{u"lost"_s};
     EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).error().description, u"lost"_s);
+}
+
+TEST_F(AwaitScanTest, whatAStallHasMadeOldIsNoAnswer)
+{
+    const std::atomic<bool> stopped = false;
+    const auto told = std::make_shared<ScriptedEvents>(Script{started, finished});
+    const auto deadline = nl80211::ScanEvents::Deadline::max();
+    EXPECT_EQ(StoppableScanEvents(told, stopped).wait(deadline).value()->stage, ScanStage::started);
+    // Any time at all is too long.
+    EXPECT_FALSE(StoppableScanEvents(told, stopped, BootTime(-1)).wait(deadline).ok());
 }
 
 TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
