@@ -25,6 +25,11 @@ HOW = {
     "cmake --preset fuzz && cmake --build --preset fuzz --target fuzzers": None,  # fuzz.build
     "tests/radio/run.sh scan build/dev/bin/aerolith-scan build/kernel build/radio 1200": None,  # radio.scan
     "bench/start": "bench/start build/dev quick",
+    # Pictures are for the eye; the views in them, and the way to each: desktop.accessibility.
+    "docs/screenshots/look --language de build/look/de": None,
+    "docs/screenshots/look --language ar_XB build/look/ar": None,
+    "docs/screenshots/look --text 2 build/look/large": None,
+    "docs/screenshots/look --scale 1.25 --dark build/look/dark": None,
     "cmake --preset release -DAEROLITH_UPDATE_FEED=https://updates.example.org/feed.xml -DAEROLITH_UPDATE_KEY=KEY":
         "cmake --preset release -N",
 }
