@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -43,7 +44,8 @@ Bytes name(Bytes elements)
 
 void append(Buffer& frame, Bytes bytes)
 {
-    frame.insert(frame.end(), bytes.begin(), bytes.end());
+    // GCC 12 sees an overflow in insert() where it optimises.
+    std::ranges::copy(bytes, std::back_inserter(frame));
 }
 
 void append16(Buffer& frame, std::uint16_t number)
