@@ -23,6 +23,8 @@ HOW = {
     "ctest --preset dev -R SettingsFile": "ctest --preset dev -R SettingsFile -N | grep SettingsFile",
     "cmake --preset bench && cmake --build --preset bench": "cmake --preset bench -N",
     "cmake --preset fuzz && cmake --build --preset fuzz --target fuzzers": None,  # fuzz.build
+    "cmake --preset release -DBUILD_TESTING=ON": "cmake --preset release -N",
+    "cmake --build --preset release --target aerolith radio-medium": None,  # package.build
     "bench/start": "bench/start build/dev quick",
     "cmake --preset release -DAEROLITH_UPDATE_FEED=https://updates.example.org/feed.xml -DAEROLITH_UPDATE_KEY=KEY":
         "cmake --preset release -N",

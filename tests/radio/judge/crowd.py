@@ -47,9 +47,9 @@ def made_up(number: int, chance: random.Random) -> str:
     return f"{address} {frequency} {chance.randint(-92, -35)} {capability:x} {frame.hex()}"
 
 
-def make(file: Path) -> None:
+def make(file: Path, count: int = COUNT) -> None:
     chance = random.Random(SEED)
-    file.write_text("".join(made_up(number, chance) + "\n" for number in range(COUNT)))
+    file.write_text("".join(made_up(number, chance) + "\n" for number in range(count)))
 
 
 def main(results: Path) -> int:

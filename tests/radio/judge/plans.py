@@ -8,6 +8,7 @@ import sys
 from pathlib import Path
 
 import crowd
+import peers
 from access_points import AccessPoint, Plan, Radio
 from every_kind import SCAN
 from settings import EAP, PASSWORD, PSK
@@ -62,7 +63,7 @@ FAULTS = Plan((
 ))
 
 PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK,
-         "faults": FAULTS}
+         "faults": FAULTS, "peers": Plan((), country="GT")}
 
 
 def main(scenario: str, folder: Path) -> None:
@@ -71,6 +72,8 @@ def main(scenario: str, folder: Path) -> None:
         plan.write(f"PASSWORD='{PASSWORD}'\n")
     if scenario in ("crowd", "faults"):
         crowd.make(folder / "crowd")
+    if scenario == "peers":
+        peers.make(folder)
     (folder / "eap.users").write_text('* PEAP\n"alice" MSCHAPV2 "wonderland" [2]\n')
 
 
