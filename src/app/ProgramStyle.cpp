@@ -4,6 +4,9 @@
 
 #include <QApplication>
 #include <QStyleOption>
+#include <QWidget>
+
+#include <utility>
 
 namespace aerolith {
 
@@ -25,6 +28,17 @@ public:
 };
 
 } // namespace
+
+void ProgramStyle::setStill(bool still)
+{
+    if (std::exchange(m_still, still) == still) {
+        return;
+    }
+    for (QWidget* widget : QApplication::allWidgets()) {
+        QEvent change(QEvent::StyleChange);
+        QApplication::sendEvent(widget, &change);
+    }
+}
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returnData) const

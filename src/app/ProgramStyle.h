@@ -15,7 +15,8 @@ namespace aerolith {
 class ProgramStyle : public QProxyStyle
 {
 public:
-    void setStill(bool still) { m_still = still; }
+    /// Tells every widget of a change.
+    void setStill(bool still);
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;

@@ -1,6 +1,6 @@
-#include "app/ProgramStyle.h"
 #include "app/ReducedMotion.h"
 
+#include "app/ProgramStyle.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
 
 #include <QApplication>
@@ -58,10 +58,23 @@ private:
 
 namespace {
 
-bool moves()
+/// Moves for as long as it hears that it should, as every view does.
+class Moving : public QWidget
 {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
-}
+public:
+    [[nodiscard]] bool moves() const { return m_moves; }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::StyleChange) {
+            m_moves = style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+        }
+    }
+
+private:
+    bool m_moves = true;
+};
 
 } // namespace
 
@@ -71,19 +84,18 @@ TEST(ReducedMotion, FollowsTheDesktopWhileItRuns)
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
     FakePortal portal(bus.address());
     QApplication::setStyle(new ProgramStyle);
-    QWidget window;
+    Moving window;
     new ReducedMotion(window);
-    ASSERT_TRUE(moves());
     window.show();
-    EXPECT_TRUE(QTest::qWaitFor([] { return !moves(); })) << "asked after the first painting";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); })) << "asked after the first painting";
 
     portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
-    EXPECT_TRUE(QTest::qWaitFor(moves));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.moves(); }));
     portal.change(u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U);
-    EXPECT_TRUE(QTest::qWaitFor([] { return !moves(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
     portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
     QTest::qWait(50);
-    EXPECT_FALSE(moves()) << "either of them is enough";
+    EXPECT_FALSE(window.moves()) << "either of them is enough";
 }
 
 } // namespace aerolith
