@@ -215,8 +215,10 @@ CONFIGURATION
     run_network_manager
 }
 
-# With a socket for other programs too, as Debian starts it.
-start_supplicant() { wpa_supplicant -u -O /run/wpa_supplicant -B -s -f /run/wpa_supplicant.log; }
+# With a socket for other programs too where SUPPLICANT_SOCKETS names a folder for it.
+start_supplicant() {
+    wpa_supplicant -u ${SUPPLICANT_SOCKETS:+-O "$SUPPLICANT_SOCKETS"} -B -s -f /run/wpa_supplicant.log
+}
 
 run_network_manager() {
     NetworkManager --debug --config /run/NetworkManager.conf >>/run/NetworkManager.log 2>&1 &

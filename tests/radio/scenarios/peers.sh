@@ -41,6 +41,7 @@ keep_services_apart() {
     done
 }
 
+SUPPLICANT_SOCKETS=/run/wpa_supplicant
 start_radios
 start_network_manager
 keep_services_apart
@@ -50,6 +51,6 @@ for size in $SIZES; do
     crowd "$size"
     peer "$size" aerolith "$PROGRAM"
     peer "$size" linssid linssid
-    peer "$size" wpa_gui wpa_gui -i wlan0 -p /run/wpa_supplicant
+    peer "$size" wpa_gui wpa_gui -i wlan0 -p "$SUPPLICANT_SOCKETS"
 done
 network_manager_lives
