@@ -38,7 +38,7 @@ prepare_initrd "$cache" "$bed/guest/init" "$results/initrd.gz"
 python3 "$bed/judge/plans.py" "$scenario" "$results/plan"
 printf '%s=%q\n' BED "$bed" SCENARIO "$scenario" PROGRAM "$program" \
     AEROLITH_SOAK_SECONDS "${AEROLITH_SOAK_SECONDS:-3600}" \
-    AEROLITH_FAULTS "${AEROLITH_FAULTS:-manager join supplicant radio bus clock crowd}" \
+    AEROLITH_FAULTS "${AEROLITH_FAULTS:-manager join supplicant radio bus clock}" \
     MODULES "$cache/root/lib/modules/$(cat "$cache/release")" >"$results/bed.env"
 
 if ! boot_machine "$cache" "$results" "$seconds" "$results/console.log"; then
