@@ -14,7 +14,7 @@ if [ -z "${DESKTOP_SESSION_HOME:-}" ]; then
     dbus-run-session -- "$0" "$@"
     exit
 fi
-trap 'kill $(jobs -p)' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true' EXIT
 unset QT_QPA_PLATFORM WAYLAND_DISPLAY
 desktop=$1
 shift

@@ -38,7 +38,7 @@ ELSEWHERE = re.compile(
 
 # What makes the others short, and independent of the machine's radio.
 SHORTER = (
-    (r"^\./run --simulate", "timeout --preserve-status 3 aerolith --simulate"),
+    (r"^\./run --simulate", "timeout --foreground --preserve-status 3 aerolith --simulate"),
     (r"\baerolith-scan(?! --help)", "aerolith-scan --simulate docs/scenarios/moving-away.json"),
     (r"0a:1b:2c:3d:4e:5f", "02:5a:30:00:00:04"),  # is in there
     (r"--interval \d+", "--interval 0"),

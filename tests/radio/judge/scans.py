@@ -6,6 +6,7 @@ from pathlib import Path
 import iw_dump
 
 TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
+LONGEST = 20  # seconds: what a scan is taken to have lasted whose beginning the program has not seen
 
 
 class Scan:
@@ -40,6 +41,11 @@ class Scan:
         or heard it again before iw could ask."""
         heard = self.heard(bssid)
         return None if heard is None or heard > self.finished else heard < self.started - TOLERANCE
+
+    def may_count(self, bssid: str) -> bool:
+        """Whether the access point was heard so lately that a cycle which began within this scan takes it for heard."""
+        heard = self.heard(bssid)
+        return heard is not None and heard > self.started - LONGEST
 
 
 class Scans:
