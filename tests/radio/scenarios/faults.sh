@@ -58,11 +58,13 @@ mend_join() {
     nmcli -g GENERAL.STATE,GENERAL.CONNECTION device show wlan0 >/out/join/device.txt
 }
 
-break_supplicant() { await_scan && stop_service wpa_supplicant KILL; }
-mend_supplicant() {
-    start_supplicant # unless NetworkManager had the bus do so
-    station_is_managed
+# NetworkManager would have the bus start another one before anybody has noticed.
+break_supplicant() {
+    rm -f /usr/share/dbus-1/system-services/fi.w1.wpa_supplicant1.service
+    busctl --quiet call org.freedesktop.DBus /org/freedesktop/DBus org.freedesktop.DBus ReloadConfig
+    await_scan && stop_service wpa_supplicant KILL
 }
+mend_supplicant() { start_supplicant && station_is_managed; }
 
 break_radio() { await_scan && "$BED/guest/hwsim.py" remove 0; }
 mend_radio() { "$BED/guest/hwsim.py" add && station_is_managed; }
