@@ -3,7 +3,7 @@
 #include "export/CSVFile.h"
 #include "export/NetworkCsv.h"
 #include "export/NetworkJson.h"
-#include "platform/qt/FileWriting.h"
+#include "platform/files/WholeFile.h"
 #include "platform/simulated/ScenarioWriter.h"
 
 #include <cerrno>
@@ -110,10 +110,9 @@ void ScanCommand::writeRecording()
         m_recorder->scenario(cycles, m_surroundings.locationManager.authorizationStatus());
     writeOrComplain(*m_arguments.recordFile, scenarioJson(scenario));
     if (m_recorder->isFull()) {
-        trouble(ExitStatus::failed, u"%1 has the first %2 of %3 scans: a scenario has room for no more"_s
-                                        .arg(*m_arguments.recordFile)
-                                        .arg(scenario.cycles.size())
-                                        .arg(cycles));
+        trouble(ExitStatus::failed, u"%1 has the first %2 of %3 scans: a scenario has room for no more"_s.arg(
+                                        *m_arguments.recordFile, QString::number(scenario.cycles.size()),
+                                        QString::number(cycles)));
     }
 }
 

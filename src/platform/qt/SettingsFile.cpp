@@ -1,6 +1,6 @@
 #include "platform/qt/SettingsFile.h"
 
-#include "platform/qt/FileWriting.h"
+#include "platform/files/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -135,11 +135,11 @@ void SettingsFile::makeFile() const
 
 SettingsFile::Cleaning SettingsFile::removeForeignValues() const
 {
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const auto text = readFile(m_path);
+    if (!text.ok()) {
         return Cleaning::unnecessary;
     }
-    QList<QByteArray> lines = file.readAll().split('\n');
+    QList<QByteArray> lines = text.value().split('\n');
     if (lines.removeIf(isForeign) == 0) {
         return Cleaning::unnecessary;
     }
@@ -182,8 +182,8 @@ std::optional<QByteArray> SettingsFile::completed() const
             return {};
         }
     }
-    QFile file(text);
-    return file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+    const auto whole = readFile(text);
+    return whole.ok() ? std::optional(whole.value()) : std::nullopt;
 }
 
 QString SettingsFile::malformed() const

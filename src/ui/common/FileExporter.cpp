@@ -1,6 +1,6 @@
 #include "ui/common/FileExporter.h"
 
-#include "platform/qt/FileWriting.h"
+#include "platform/files/WholeFile.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,11 +1,10 @@
 #include "platform/linux/xdg/XdgLoginItem.h"
 
+#include "platform/files/WholeFile.h"
 #include "platform/linux/xdg/DesktopEntry.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <utility>
@@ -24,11 +23,6 @@ constexpr auto newEntry = "[Desktop Entry]\n"
                           "Name=Aerolith\n"
                           "Icon=org.aerolith.Aerolith\n";
 
-Error failed(QLatin1StringView action, const QFileDevice& file)
-{
-    return {u"Cannot %1 %2: %3"_s.arg(action, file.fileName(), file.errorString())};
-}
-
 /// No bytes when there is no file.
 Result<QByteArray> read(const QString& path)
 {
@@ -36,14 +30,10 @@ Result<QByteArray> read(const QString& path)
     if (!info.exists()) {
         return QByteArray();
     }
-    QFile file(path);
     if (!info.isFile()) {
         return Error{u"%1 is not a file"_s.arg(path)};
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return failed("read"_L1, file);
-    }
-    return file.readAll();
+    return readFile(path);
 }
 
 Failure write(const QString& path, const QByteArray& bytes)
@@ -52,11 +42,7 @@ Failure write(const QString& path, const QByteArray& bytes)
     if (!QDir().mkpath(folder)) {
         return Error{u"Cannot create the folder %1"_s.arg(folder)};
     }
-    // commit() does not look at what becomes of the last bytes.
-    QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
-    return written ? Failure() : failed("write"_L1, file);
+    return writeFile(path, bytes);
 }
 
 bool isOn(const QByteArray& entry)
