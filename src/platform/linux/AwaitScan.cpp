@@ -52,11 +52,13 @@ std::optional<BootTime> newestScan(ScanService& service, BootTime begun, std::op
 
 } // namespace
 
-Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, BootTime begun,
+Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, const WaitStart& start,
                            const std::optional<QByteArray>& ssid, const Heard& heard)
 {
+    const BootTime begun = start.begun;
     const auto before = service.lastScan();
-    const auto runningSince = earliestStart(begun, before);
+    const auto runningSince =
+        std::max(earliestStart(begun, before), start.underWaySince.value_or(BootTime::min()));
     const bool isListed = ssid && heard(BootTime::min());
     auto refusal = service.request(isListed ? std::nullopt : ssid);
     const auto requested = Deadline::clock::now();

@@ -16,9 +16,16 @@ namespace aerolith {
 /// is remembered.
 using Heard = std::function<bool(nl80211::BootTime since)>;
 
+struct WaitStart
+{
+    /// Before the events were made, and that before the wait.
+    nl80211::BootTime begun;
+    /// The earliest that the scan can have begun which was under way then; absent where that is not known.
+    std::optional<nl80211::BootTime> underWaySince = {};
+};
+
 /// Asks for a scan and waits for its end: 15 seconds for its start, as the service may put it off, and 30 in
-/// all. `begun` is from before `events` was made, and that from before this call. Returns since when an
-/// access point must have been heard to be a find of the scan that answers.
+/// all. Returns since when an access point must have been heard to be a find of the scan that answers.
 ///
 /// Somebody else's scan that is under way answers a full scan too; a scan for a name only if it has found
 /// the name. A name that has been heard lately is looked for by a full scan first; then it is asked for until
@@ -27,7 +34,7 @@ using Heard = std::function<bool(nl80211::BootTime since)>;
 /// seconds or has heard nothing: then one may be under way, which has until the end of the 30. None by then,
 /// like an obstacle that turns up meanwhile, is an error.
 [[nodiscard]] Result<nl80211::BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events,
-                                                  nl80211::BootTime begun,
+                                                  const WaitStart& start,
                                                   const std::optional<QByteArray>& ssid, const Heard& heard);
 
 } // namespace aerolith

@@ -12,6 +12,7 @@ LinuxWiFiClient::LinuxWiFiClient(Log& log, BusAddress bus, std::unique_ptr<nl802
                                  QString systemFiles)
     : m_wireless(
           std::make_shared<LinuxWireless>(std::move(kernel), std::move(bus), std::move(systemFiles), log))
+    , m_scanWatch(*m_wireless->kernel, m_wireless->scansUnderWay)
 {
 }
 

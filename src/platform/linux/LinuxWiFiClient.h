@@ -2,6 +2,7 @@
 
 #include "platform/CWWiFiClient.h"
 #include "platform/linux/LinuxWireless.h"
+#include "platform/linux/ScanWatch.h"
 
 #include <memory>
 
@@ -12,7 +13,7 @@ namespace aerolith {
 class LinuxWiFiClient : public CWWiFiClient
 {
 public:
-    /// `log` outlives this object and the interfaces it hands out. `bus` is where NetworkManager is, and
+    /// Main thread, as for the destructor. `log` outlives this object and the interfaces it hands out. `bus` is where NetworkManager is, and
     /// `systemFiles` where sysfs is mounted.
     explicit LinuxWiFiClient(Log& log, BusAddress bus = {},
                              std::unique_ptr<nl80211::Nl80211> kernel = nl80211::makeNl80211(),
@@ -25,6 +26,7 @@ public:
 
 private:
     std::shared_ptr<LinuxWireless> m_wireless;
+    ScanWatch m_scanWatch;
     /// Whether it has been logged that the kernel cannot be asked.
     std::atomic<bool> m_failureLogged = false;
 };

@@ -2,11 +2,20 @@
 
 #include "platform/linux/nl80211/Sightings.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+};
+
+} // namespace
 
 LinuxWireless::LinuxWireless(std::unique_ptr<nl80211::Nl80211> ownedKernel, BusAddress busAddress,
                              QString systemFilesPath, Log& lineLog)
@@ -28,7 +37,7 @@ Result<nl80211::InterfaceInfo> LinuxWireless::interface(const QString& name)
             return info;
         }
     }
-    return Error{u"The Wi-Fi interface %1 is gone"_s.arg(name)};
+    return Error{Texts::tr("The Wi-Fi interface %1 is gone").arg(name)};
 }
 
 QList<nl80211::BssEntry> LinuxWireless::entries(const QString& interfaceName)

@@ -6,6 +6,7 @@
 #include "platform/linux/networkmanager/BusConnection.h"
 #include "platform/linux/nl80211/BootTime.h"
 #include "platform/linux/nl80211/Nl80211.h"
+#include "platform/linux/nl80211/ScansUnderWay.h"
 
 #include <QString>
 
@@ -27,6 +28,7 @@ struct LinuxWireless
     QString systemFiles;
     Log& log;
     AskedNames askedNames;
+    nl80211::ScansUnderWay scansUnderWay;
     /// Whether it has been logged that NetworkManager's addresses are made up.
     std::atomic<bool> madeUpAddressLogged = false;
     /// Whether every scan and join is to end at once.

@@ -90,13 +90,14 @@ protected:
     std::optional<BootTime> await(Script script, const std::optional<QByteArray>& ssid = {})
     {
         ScriptedEvents events(std::move(script));
-        const auto result = awaitScan(m_service, events, begun, ssid,
+        const auto result = awaitScan(m_service, events, {begun, m_underWaySince}, ssid,
                                       [this](BootTime since) { return m_heard && *m_heard >= since; });
         m_error = result.ok() ? QString() : result.error().description;
         return result.ok() ? std::optional(result.value()) : std::nullopt;
     }
 
     FakeService m_service;
+    std::optional<BootTime> m_underWaySince;
     /// When an access point, of the name that is scanned for, was last heard.
     std::optional<BootTime> m_heard;
     QString m_error;
@@ -115,6 +116,9 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
     EXPECT_EQ(await({std::nullopt, finished}), begun - 20s) << "it takes longer than one may take to begin";
     m_service.lastScans = {begun - 3s};
     EXPECT_EQ(await({finished}), begun - 3s) << "it began after the one before had ended";
+    m_underWaySince = begun - 1s;
+    EXPECT_EQ(await({finished}), begun - 1s) << "its start was seen";
+    EXPECT_EQ(await({started, finished}), begun) << "it has ended meanwhile";
 
     EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
 }
@@ -193,12 +197,12 @@ TEST_F(AwaitScanTest, aRefusalOrLostEventsEndTheWait)
 {
     ScriptedEvents events({started, finished});
     m_service.refusal = Error{u"refused"_s};
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).error().description, u"refused"_s);
+    EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).error().description, u"refused"_s);
     EXPECT_TRUE(events.deadlines.empty());
 
     m_service.refusal.reset();
     events.failure = Error{u"lost"_s};
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).error().description, u"lost"_s);
+    EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).error().description, u"lost"_s);
 }
 
 TEST_F(AwaitScanTest, whatAStallHasMadeOldIsNoAnswer)
@@ -214,7 +218,7 @@ TEST_F(AwaitScanTest, whatAStallHasMadeOldIsNoAnswer)
 TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
 {
     ScriptedEvents events({started, aborted, started, finished});
-    EXPECT_TRUE(awaitScan(m_service, events, begun, {}, {}).ok());
+    EXPECT_TRUE(awaitScan(m_service, events, {begun}, {}, {}).ok());
     ASSERT_EQ(events.deadlines.size(), 4U);
     EXPECT_EQ(events.deadlines[1] - events.deadlines[0], 15s);
     EXPECT_EQ(events.deadlines[3], events.deadlines[1]);
@@ -224,7 +228,7 @@ TEST_F(AwaitScanTest, withoutEventsANewLastScanIsTheSign)
 {
     m_service.lastScans = {begun - 5s, begun - 5s, begun - 5s, begun + 2s};
     LastScanEvents events(m_service, 0ms);
-    EXPECT_EQ(awaitScan(m_service, events, begun, {}, {}).value(), begun);
+    EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).value(), begun);
     EXPECT_EQ(events.wait({}).value(), std::nullopt) << "nothing new before the deadline";
 }
 

@@ -27,7 +27,15 @@ class Events : public nl80211::ScanEvents
 public:
     explicit Events(FakeKernel& kernel) : m_kernel(kernel) {}
 
-    Result<std::optional<ScanEvent>> wait(Deadline deadline) override { return m_kernel.next(deadline); }
+    Result<std::optional<ScanEvent>> wait(Deadline deadline) override
+    {
+        if (m_kernel.eventsFailure) {
+            return *m_kernel.eventsFailure;
+        }
+        return m_kernel.next(deadline);
+    }
+
+    std::optional<int> descriptor() const override { return m_kernel.descriptor; }
 
 private:
     FakeKernel& m_kernel;
@@ -98,7 +106,7 @@ Failure FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)
     return {};
 }
 
-Result<std::shared_ptr<nl80211::ScanEvents>> FakeKernel::scanEvents(std::uint32_t)
+Result<std::shared_ptr<nl80211::ScanEvents>> FakeKernel::scanEvents(std::optional<std::uint32_t>)
 {
     if (!tellsEvents) {
         return Error{u"no events"_s};

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] Failure triggerScan(std::uint32_t interfaceIndex,
                                       const std::optional<QByteArray>& ssid) override;
     [[nodiscard]] Result<std::shared_ptr<nl80211::ScanEvents>>
-    scanEvents(std::uint32_t interfaceIndex) override;
+    scanEvents(std::optional<std::uint32_t> interfaceIndex) override;
 
     /// The next event, or none at the deadline.
     [[nodiscard]] std::optional<nl80211::ScanEvent> next(nl80211::ScanEvents::Deadline deadline);
@@ -40,6 +40,9 @@ public:
     std::optional<Error> triggerRefusal;
     QList<nl80211::ScanStage> triggeredEvents;
     bool tellsEvents = true;
+    std::optional<Error> eventsFailure;
+    /// Of the events, which come without it.
+    std::optional<int> descriptor;
 
 private:
     std::mutex m_mutex;

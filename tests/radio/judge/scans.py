@@ -6,7 +6,8 @@ from pathlib import Path
 import iw_dump
 
 TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
-LONGEST = 20  # seconds: what a scan is taken to have lasted whose beginning the program has not seen
+LONGEST = 20  # seconds: what a scan is taken to have lasted that was under way when the program started
+LATENESS = 1  # seconds, at most, that the program takes any other scan to have begun before it did
 
 
 class Scan:
@@ -42,10 +43,10 @@ class Scan:
         heard = self.heard(bssid)
         return None if heard is None or heard > self.finished else heard < self.started - TOLERANCE
 
-    def may_count(self, bssid: str) -> bool:
+    def may_count(self, bssid: str, in_first_cycle: bool) -> bool:
         """Whether the access point was heard so lately that a cycle which began within this scan takes it for heard."""
         heard = self.heard(bssid)
-        return heard is not None and heard > self.started - LONGEST
+        return heard is not None and heard > self.started - (LONGEST if in_first_cycle else LATENESS)
 
 
 class Scans:

@@ -23,6 +23,11 @@ class Faults:
             print(f"FAULT: {fault}")
         return holds
 
+    def verdict(self) -> int:
+        """The judge's last word and exit status."""
+        print(f"{self.count} faults")
+        return 1 if self.count else 0
+
 
 class Step:
     """One observed run of the program."""

@@ -69,7 +69,7 @@ Result<Value> dump(int command, QLatin1StringView what, AddAttributes addAttribu
 class KernelScanEvents : public ScanEvents
 {
 public:
-    KernelScanEvents(std::shared_ptr<Socket> socket, std::uint32_t interfaceIndex)
+    KernelScanEvents(std::shared_ptr<Socket> socket, std::optional<std::uint32_t> interfaceIndex)
         : m_socket(std::move(socket)), m_interfaceIndex(interfaceIndex)
     {
     }
@@ -82,7 +82,7 @@ public:
                 if (!event.ok()) {
                     return event.error();
                 }
-                if (event.value() && event.value()->interfaceIndex == m_interfaceIndex) {
+                if (event.value() && isOfInterest(*event.value())) {
                     return event.value();
                 }
             }
@@ -97,9 +97,16 @@ public:
         }
     }
 
+    std::optional<int> descriptor() const override { return m_socket->descriptor(); }
+
 private:
+    bool isOfInterest(const ScanEvent& event) const
+    {
+        return !m_interfaceIndex || event.interfaceIndex == *m_interfaceIndex;
+    }
+
     std::shared_ptr<Socket> m_socket;
-    std::uint32_t m_interfaceIndex;
+    std::optional<std::uint32_t> m_interfaceIndex;
     QList<QByteArray> m_messages;
 };
 
@@ -164,7 +171,7 @@ public:
         }
     }
 
-    Result<std::shared_ptr<ScanEvents>> scanEvents(std::uint32_t interfaceIndex) override
+    Result<std::shared_ptr<ScanEvents>> scanEvents(std::optional<std::uint32_t> interfaceIndex) override
     {
         const auto socket = Socket::open();
         if (!socket.ok()) {

@@ -16,7 +16,7 @@
 
 namespace aerolith::nl80211 {
 
-/// Scans of one interface as they begin and end, from the moment the object was made: make it before asking
+/// Scans of one interface, or of all, as they begin and end, from the moment the object was made: make it before asking
 /// for the scan to be waited for. One thread at a time.
 class ScanEvents
 {
@@ -31,6 +31,9 @@ public:
     /// Blocks until the next event; absent when there was none before the deadline. After an error, events
     /// may have been missed.
     [[nodiscard]] virtual Result<std::optional<ScanEvent>> wait(Deadline deadline) = 0;
+
+    /// Becomes readable when there may be an event; absent where the source has no such thing.
+    [[nodiscard]] virtual std::optional<int> descriptor() const { return {}; }
 };
 
 /// The kernel's Wi-Fi configuration interface. Any thread, also several at once. Every operation asks the
@@ -57,8 +60,9 @@ public:
     [[nodiscard]] virtual Failure triggerScan(std::uint32_t interfaceIndex,
                                               const std::optional<QByteArray>& ssid) = 0;
 
-    /// Needs no privilege.
-    [[nodiscard]] virtual Result<std::shared_ptr<ScanEvents>> scanEvents(std::uint32_t interfaceIndex) = 0;
+    /// Of every interface where none is given. Needs no privilege.
+    [[nodiscard]] virtual Result<std::shared_ptr<ScanEvents>>
+    scanEvents(std::optional<std::uint32_t> interfaceIndex) = 0;
 };
 
 /// The running kernel's. Each operation opens a socket of its own.

@@ -199,4 +199,9 @@ Result<QList<QByteArray>> Socket::receive(Deadline deadline)
     return events;
 }
 
+int Socket::descriptor() const
+{
+    return nl_socket_get_fd(m_socket.get());
+}
+
 } // namespace aerolith::nl80211

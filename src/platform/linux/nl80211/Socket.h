@@ -56,6 +56,9 @@ public:
     /// passed.
     [[nodiscard]] Result<QList<QByteArray>> receive(Deadline deadline);
 
+    /// Readable when there is something to receive.
+    [[nodiscard]] int descriptor() const;
+
 private:
     struct FreeSocket
     {
