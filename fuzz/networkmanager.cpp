@@ -111,11 +111,12 @@ qulonglong use(const StoredProfile& profile)
     return profile.settings[QStringLiteral("connection")].value(QStringLiteral("timestamp")).toULongLong();
 }
 
-void requireNewest(const QList<StoredProfile>& profiles, const QByteArray& ssid)
+void requireNewest(const QList<StoredProfile>& profiles, const CWNetwork& network)
 {
-    const auto newest = newestProfile(profiles, ssid);
+    const auto newest = newestProfile(profiles, network);
     const auto isFor = [&](const StoredProfile& profile) {
-        return profile.settings[wirelessSection].value(QStringLiteral("ssid")).toByteArray() == ssid;
+        const auto name = profile.settings[wirelessSection].value(QStringLiteral("ssid")).toByteArray();
+        return name == network.ssidData && fitsSecurity(profile.settings, network);
     };
     require(newest.has_value() == std::any_of(profiles.begin(), profiles.end(), isFor));
     require(!newest || (isFor(*newest) && std::ranges::all_of(profiles, [&](const StoredProfile& profile) {
@@ -169,7 +170,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     while (input.remaining_bytes() > 0 && profiles.size() < 3) {
         profiles.append({QStringLiteral("/profile"), settings(input)});
     }
-    requireNewest(profiles, joining.ssidData);
+    requireNewest(profiles, joining);
     for (const StoredProfile& profile : profiles) {
         if (joined.ok()) {
             requireOnlyPassword(profile, joined.value(), password);

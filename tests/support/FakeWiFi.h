@@ -4,7 +4,7 @@
 #include "platform/CWWiFiClient.h"
 
 #include <functional>
-#include <mutex>
+#include <vector>
 
 namespace aerolith {
 
@@ -113,6 +113,18 @@ public:
 private:
     CLLocationManagerDelegate* m_delegate = nullptr;
     CLAuthorizationStatus m_status = CLAuthorizationStatus::notDetermined;
+};
+
+/// Keeps what a location manager tells it.
+class RecordingDelegate : public CLLocationManagerDelegate
+{
+public:
+    void locationManagerDidChangeAuthorization(CLLocationManager& manager) override
+    {
+        told.push_back(manager.authorizationStatus());
+    }
+
+    std::vector<CLAuthorizationStatus> told;
 };
 
 } // namespace aerolith

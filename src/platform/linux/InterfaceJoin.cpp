@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] Failure run(const QString& password)
     {
-        const auto stored = storedProfile(m_manager.bus(), m_devicePath, m_network.ssidData);
+        const auto stored = storedProfile(m_manager.bus(), m_devicePath, m_network);
         if (stored && password.isEmpty()) {
             return activate(*stored);
         }
@@ -51,9 +51,11 @@ public:
         if (!stored || stored->settings.contains(u"802-1x"_s)) {
             return joinAndKeep(settings.value());
         }
-        return hasPassword(m_manager.bus(), *stored, settings.value())
-                   ? activate(*stored)
-                   : replacePassword(*stored, settings.value());
+        const auto isStored = hasPassword(m_manager.bus(), *stored, settings.value());
+        if (!isStored.ok()) {
+            return isStored.error();
+        }
+        return isStored.value() ? activate(*stored) : replacePassword(*stored, settings.value());
     }
 
 private:

@@ -1,7 +1,5 @@
 #include "platform/linux/LinuxLocationManager.h"
 
-#include <QPointer>
-
 namespace aerolith {
 
 LinuxLocationManager::LinuxLocationManager(MainQueue& mainQueue, const BusAddress& bus)
@@ -16,12 +14,10 @@ void LinuxLocationManager::setDelegate(CLLocationManagerDelegate* delegate)
         return;
     }
     m_firstDeliveryPending = true;
-    m_mainQueue.async([this, lifetime = QPointer(&m_lifetime)] {
-        if (lifetime != nullptr) {
-            m_firstDeliveryPending = false;
-            deliver();
-        }
-    });
+    m_mainQueue.async(m_lifeline.guarded([this] {
+        m_firstDeliveryPending = false;
+        deliver();
+    }));
 }
 
 CLAuthorizationStatus LinuxLocationManager::authorizationStatus() const

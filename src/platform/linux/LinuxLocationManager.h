@@ -1,10 +1,9 @@
 #pragma once
 
 #include "platform/CLLocationManager.h"
+#include "platform/Lifeline.h"
 #include "platform/Queues.h"
 #include "platform/linux/networkmanager/ScanPermission.h"
-
-#include <QObject>
 
 namespace aerolith {
 
@@ -30,8 +29,7 @@ private:
     CLLocationManagerDelegate* m_delegate = nullptr;
     /// While the delivery that follows setDelegate() is on its way; it covers the changes until then.
     bool m_firstDeliveryPending = false;
-    /// What tells a delivery on its way that this object is gone.
-    QObject m_lifetime;
+    Lifeline m_lifeline;
 };
 
 } // namespace aerolith

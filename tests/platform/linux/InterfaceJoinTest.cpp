@@ -5,9 +5,11 @@
 #include "support/MainLoop.h"
 #include "support/RecordingLog.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
+#include <QSemaphore>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -46,9 +48,11 @@ protected:
         return failure ? failure->description : joined;
     }
 
-    /// A profile for the network, with an address of its own, that NetworkManager keeps.
+    /// A profile for the network, with an address and a choice of security of its own, that NetworkManager
+    /// keeps.
     void store(const QString& password)
     {
+        m_network.securityCodes.insert(static_cast<int>(CWSecurity::wpa3Personal));
         m_fake->setProperty(u"Device.AvailableConnections"_s,
                             QVariant::fromValue(QList{QDBusObjectPath(stored)}));
         const QList<QList<uint>> addresses{{1, 24, 2}};
@@ -135,13 +139,22 @@ TEST_F(InterfaceJoinTest, aStoredProfileJoinsByItself)
     EXPECT_EQ(join(u"correct horse"_s), joined);
     m_fake->setActivation(wrongPassword, 4);
     EXPECT_EQ(join({}), u"The password is not correct"_s);
-    m_fake->setActivation({}, 2);
-    m_network.securityCodes = {};
-    EXPECT_EQ(join(u"needless"_s), joined);
-    EXPECT_EQ(changes(), QStringList(5, u"ActivateConnection"_s));
+    EXPECT_EQ(changes(), QStringList(4, u"ActivateConnection"_s));
     EXPECT_EQ(
         m_fake->calls(u"ActivateConnection"_s).first().arguments().at(0).value<QDBusObjectPath>().path(),
         stored);
+}
+
+TEST_F(InterfaceJoinTest, aStoredProfileIsForItsKindOfSecurityAlone)
+{
+    store(u"correct horse"_s);
+    m_network.securityCodes = {};
+    m_network.securityCodes.insert(static_cast<int>(CWSecurity::none));
+    EXPECT_EQ(join({}), joined);
+    ASSERT_THAT(changes(), ElementsAre(u"AddAndActivateConnection2"_s,
+                                       u"Update2 "_s + FakeNetworkManager::newProfilePath))
+        << "an open network of the same name";
+    EXPECT_FALSE(settingsOf(m_fake->calls(u"AddAndActivateConnection2"_s).first()).contains(security));
 }
 
 TEST_F(InterfaceJoinTest, aStoredProfileTakesAPasswordOnlyOnceItHasJoined)
@@ -170,10 +183,30 @@ TEST_F(InterfaceJoinTest, aStoredProfileTakesAPasswordOnlyOnceItHasJoined)
                 })));
 }
 
+TEST_F(InterfaceJoinTest, windowsLiveOnWhileTheDesktopIsAskedForThePassword)
+{
+    store(u"correct horse"_s);
+    QSemaphore handled;
+    bool inTime = false;
+    m_fake->on(u"GetSecrets"_s, [&](const QDBusMessage& call) {
+        QMetaObject::invokeMethod(
+            qApp, [&handled] { handled.release(); }, Qt::QueuedConnection);
+        inTime = handled.tryAcquire(1, 5'000);
+        return call.createReply(
+            QVariant::fromValue(ConnectionSettings{{security, {{u"psk"_s, u"correct horse"_s}}}}));
+    });
+    EXPECT_EQ(join(), joined);
+    EXPECT_TRUE(inTime);
+    EXPECT_EQ(changes(), QStringList(u"ActivateConnection"_s));
+}
+
 TEST_F(InterfaceJoinTest, saysWhatStandsInTheWay)
 {
-    m_fake->on(u"AddAndActivateConnection2"_s, refuse(u"org.freedesktop.NetworkManager.PermissionDenied"_s));
-    EXPECT_EQ(join(), u"The system does not permit this user to join networks"_s);
+    for (const auto& denied : {u"org.freedesktop.NetworkManager.PermissionDenied"_s,
+                               u"org.freedesktop.NetworkManager.Settings.PermissionDenied"_s}) {
+        m_fake->on(u"AddAndActivateConnection2"_s, refuse(denied));
+        EXPECT_EQ(join(), u"The system does not permit this user to join networks"_s);
+    }
     m_fake->on(u"AddAndActivateConnection2"_s, {});
     m_fake->setActivation({{40, 0}, {20, 0}}, 0);
     m_fake->on(u"AddAndActivateConnection2"_s, [this](const QDBusMessage& call) {

@@ -2,6 +2,7 @@
 
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/FakeWiFi.h"
 #include "support/MainLoop.h"
 #include "support/ManualMainQueue.h"
 
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <vector>
 
 namespace aerolith {
 namespace {
@@ -18,16 +18,6 @@ using namespace Qt::StringLiterals;
 using Status = CLAuthorizationStatus;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-struct RecordingDelegate : CLLocationManagerDelegate
-{
-    void locationManagerDidChangeAuthorization(CLLocationManager& manager) override
-    {
-        delivered.push_back(manager.authorizationStatus());
-    }
-
-    std::vector<Status> delivered;
-};
 
 class LinuxLocationManagerTest : public testing::Test
 {
@@ -58,17 +48,17 @@ TEST_F(LinuxLocationManagerTest, deliversOnceOnALaterTurnAndThenEveryChange)
 {
     start(u"yes"_s);
     EXPECT_EQ(m_manager->authorizationStatus(), Status::authorizedAlways);
-    EXPECT_THAT(m_delegate.delivered, IsEmpty());
+    EXPECT_THAT(m_delegate.told, IsEmpty());
     m_queue.drain();
-    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::authorizedAlways));
+    EXPECT_THAT(m_delegate.told, ElementsAre(Status::authorizedAlways));
     m_fake->setScanPermission(u"no"_s);
     EXPECT_TRUE(becomes(Status::denied));
     m_fake->setScanPermission(u"auth"_s);
     EXPECT_TRUE(becomes(Status::notDetermined));
     m_manager->requestWhenInUseAuthorization();
     EXPECT_TRUE(becomes(Status::authorizedAlways));
-    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::authorizedAlways, Status::denied,
-                                                  Status::notDetermined, Status::authorizedAlways));
+    EXPECT_THAT(m_delegate.told, ElementsAre(Status::authorizedAlways, Status::denied, Status::notDetermined,
+                                             Status::authorizedAlways));
 }
 
 TEST_F(LinuxLocationManagerTest, aChangeBeforeTheFirstDeliveryIsPartOfIt)
@@ -77,7 +67,7 @@ TEST_F(LinuxLocationManagerTest, aChangeBeforeTheFirstDeliveryIsPartOfIt)
     m_fake->setScanPermission(u"no"_s);
     EXPECT_TRUE(becomes(Status::denied));
     m_queue.drain();
-    EXPECT_THAT(m_delegate.delivered, ElementsAre(Status::denied));
+    EXPECT_THAT(m_delegate.told, ElementsAre(Status::denied));
 }
 
 TEST_F(LinuxLocationManagerTest, deliversNothingAfterDetachingOrItsEnd)
@@ -90,7 +80,7 @@ TEST_F(LinuxLocationManagerTest, deliversNothingAfterDetachingOrItsEnd)
     m_manager->setDelegate(&m_delegate);
     m_manager.reset();
     m_queue.drain();
-    EXPECT_THAT(m_delegate.delivered, IsEmpty());
+    EXPECT_THAT(m_delegate.told, IsEmpty());
 }
 
 } // namespace

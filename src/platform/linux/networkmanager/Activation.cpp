@@ -18,8 +18,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// For the user to prove who they are, where the system asks.
-constexpr int answerTimeoutMilliseconds = 120'000;
+// For the user to prove who they are, where the system asks. Some limit there has to be: NetworkManager may
+// hang.
+constexpr int answerTimeoutMilliseconds = 600'000;
 constexpr auto checkInterval = 100ms;
 /// For an answer that is only needed to take the request back.
 constexpr auto lastAnswerLimit = 2s;

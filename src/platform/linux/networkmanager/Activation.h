@@ -44,7 +44,8 @@ struct ActivationEnd
     /// reasons.
     DeviceState state = DeviceState::unknown;
     quint32 reason = 0;
-    /// The objects of the profile and of the active connection; empty where NetworkManager made none.
+    /// The objects of the profile, which is the stored one or the new one, and of the active connection;
+    /// empty where NetworkManager made none.
     QString profilePath = {};
     QString activePath = {};
 };
@@ -80,8 +81,9 @@ public:
     ///
     /// Blocks until the outcome is there, the time limit after NetworkManager has accepted the request at the
     /// latest, or until `stopped` is set or the application quits; what NetworkManager is still at then is
-    /// ended, for which its answer is waited for two seconds more. Meanwhile the thread handles its events,
-    /// all but the user's input. To be called once.
+    /// ended, for which its answer is waited for two seconds more. It accepts when the user has proved who
+    /// they are, where the system asks, for which there are ten minutes. Meanwhile the thread handles its
+    /// events, all but the user's input. To be called once.
     [[nodiscard]] ActivationEnd activate(const QString& profilePath, const QString& accessPointPath,
                                          const std::atomic<bool>& stopped);
     [[nodiscard]] ActivationEnd activateNew(const ConnectionSettings& settings,

@@ -18,13 +18,24 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DeviceStateReason
     return argument;
 }
 
+namespace {
+
+/// Qt works out a type's signature where it is first needed, and two threads that do so at once read garbage.
+template <typename Type>
+void registerWithSignature()
+{
+    QDBusMetaType::typeToSignature(qDBusRegisterMetaType<Type>());
+}
+
+} // namespace
+
 void registerDBusTypes()
 {
     [[maybe_unused]] static const bool registered = [] {
-        qDBusRegisterMetaType<PermissionMap>();
-        qDBusRegisterMetaType<ConnectionSettings>();
-        qDBusRegisterMetaType<DeviceStateReason>();
-        qDBusRegisterMetaType<QList<QByteArray>>();
+        registerWithSignature<PermissionMap>();
+        registerWithSignature<ConnectionSettings>();
+        registerWithSignature<DeviceStateReason>();
+        registerWithSignature<QList<QByteArray>>();
         return true;
     }();
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 
 namespace aerolith {
 
@@ -18,6 +19,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(JoinFailure)
 };
 
+const auto management = u"key-mgmt"_s;
 const auto presharedKey = u"psk"_s;
 const auto wepKey = u"wep-key0"_s;
 
@@ -31,6 +33,27 @@ enum class Kind
     wpa3Personal,
     enhancedOpen,
     enterprise,
+};
+
+/// What a profile with the key management can join.
+struct Fit
+{
+    QLatin1StringView management;
+    CWSecurity security;
+};
+
+constexpr std::array fits = {
+    Fit{"none"_L1, CWSecurity::wep},
+    Fit{"ieee8021x"_L1, CWSecurity::wep},
+    Fit{"ieee8021x"_L1, CWSecurity::dynamicWEP},
+    Fit{"wpa-psk"_L1, CWSecurity::wpaPersonal},
+    Fit{"wpa-psk"_L1, CWSecurity::wpa2Personal},
+    Fit{"sae"_L1, CWSecurity::wpa3Personal},
+    Fit{"wpa-eap"_L1, CWSecurity::enterprise},
+    Fit{"wpa-eap-suite-b-192"_L1, CWSecurity::enterprise},
+    Fit{"owe"_L1, CWSecurity::owe},
+    // Beside an open access point there may be one of the same network that encrypts.
+    Fit{"owe"_L1, CWSecurity::none},
 };
 
 Kind kindOf(const CWNetwork& network)
@@ -104,7 +127,6 @@ Failure faultOf(Kind kind, const QString& password)
 
 QVariantMap securityOf(Kind kind, const QString& password)
 {
-    const auto management = u"key-mgmt"_s;
     switch (kind) {
     case Kind::wep:
         return {{management, u"none"_s}, {wepKey, password}, {u"wep-key-type"_s, wepKeyNotPassphrase}};
@@ -140,6 +162,17 @@ Result<ConnectionSettings> joinSettings(const CWNetwork& network, bool hidden, c
         settings[securitySection] = security;
     }
     return settings;
+}
+
+bool fitsSecurity(const ConnectionSettings& profile, const CWNetwork& network)
+{
+    const auto managed = profile.value(securitySection).value(management).toString();
+    if (managed.isEmpty()) {
+        return kindOf(network) == Kind::open;
+    }
+    return std::ranges::any_of(fits, [&](const Fit& fit) {
+        return fit.management == managed && network.supportsSecurity(fit.security);
+    });
 }
 
 QString passwordSetting(const ConnectionSettings& settings)

@@ -18,6 +18,10 @@ namespace aerolith {
 [[nodiscard]] Result<ConnectionSettings> joinSettings(const CWNetwork& network, bool hidden,
                                                       const QString& password);
 
+/// Whether a profile's settings are for the kind of security that the network has: an open one's for an open
+/// network, another's for one that offers its key management. NetworkManager refuses all others.
+[[nodiscard]] bool fitsSecurity(const ConnectionSettings& profile, const CWNetwork& network);
+
 /// The names of the sections, and of the one setting that holds the password.
 extern const QString wirelessSection;
 extern const QString securitySection;

@@ -1,11 +1,12 @@
 #include "platform/linux/networkmanager/NetworkManager.h"
 
+#include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/MainThread.h"
 
 #include <QDBusConnectionInterface>
-#include <QDBusPendingCallWatcher>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -58,12 +59,8 @@ Failure NetworkManager::awaitAnswer() const
     auto question = QDBusMessage::createMethodCall(serviceName, objectPath,
                                                    u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question << QString::fromLatin1(ManagerProxy::staticInterfaceName()) << u"WirelessEnabled"_s;
-    const QDBusPendingCallWatcher answer(
-        m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count())));
-    QEventLoop loop;
-    QObject::connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
-    // Also returns when the application quits.
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    const auto answer = m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count()));
+    awaitCall(answer);
     if (!answer.isFinished()) {
         return Error{u"NetworkManager has not answered yet"_s};
     }
@@ -132,9 +129,8 @@ Result<std::optional<ManagedDevice>> NetworkManager::device(const QString& inter
     if (!state.ok()) {
         return state.error();
     }
-    return std::optional(ManagedDevice{.path = path.value().path(),
-                                       .state = static_cast<DeviceState>(state.value().state),
-                                       .reason = state.value().reason});
+    return std::optional(
+        ManagedDevice{.path = path.value().path(), .state = static_cast<DeviceState>(state.value().state)});
 }
 
 Result<std::optional<std::chrono::milliseconds>> NetworkManager::lastScan(const QString& devicePath) const

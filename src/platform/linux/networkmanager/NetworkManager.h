@@ -33,8 +33,6 @@ enum class DeviceState : quint32
     preparing = 40,
     gettingAddress = 70,
     activated = 100,
-    deactivating = 110,
-    failed = 120,
 };
 
 /// A device as NetworkManager has it.
@@ -44,8 +42,6 @@ struct ManagedDevice
     QString path;
     /// May be a number that has no name.
     DeviceState state = DeviceState::unknown;
-    /// Why it is in that state, as NetworkManager numbers the reasons.
-    quint32 reason = 0;
 };
 
 /// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most for the

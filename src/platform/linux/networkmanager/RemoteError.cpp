@@ -33,6 +33,9 @@ constexpr std::array namedFailures = {
     NamedFailure{"org.freedesktop.DBus.Error.TimedOut"_L1, RemoteFailure::noAnswer},
     NamedFailure{"org.freedesktop.DBus.Error.AccessDenied"_L1, RemoteFailure::permissionDenied},
     NamedFailure{"org.freedesktop.NetworkManager.PermissionDenied"_L1, RemoteFailure::permissionDenied},
+    // The permission to change profiles, where joining needs a new one.
+    NamedFailure{"org.freedesktop.NetworkManager.Settings.PermissionDenied"_L1,
+                 RemoteFailure::permissionDenied},
     NamedFailure{"org.freedesktop.NetworkManager.Device.NotAllowed"_L1, RemoteFailure::notAllowed},
     NamedFailure{"org.freedesktop.NetworkManager.UnknownDevice"_L1, RemoteFailure::unknownObject},
     NamedFailure{"org.freedesktop.DBus.Error.UnknownObject"_L1, RemoteFailure::unknownObject},

@@ -1,6 +1,7 @@
 #include "platform/linux/networkmanager/StoredProfile.h"
 
 #include "platform/Secret.h"
+#include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/JoinSettings.h"
 
@@ -29,7 +30,7 @@ Failure update(const BusConnection& bus, const QString& path, const ConnectionSe
 } // namespace
 
 std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
-                                           const QByteArray& ssid)
+                                           const CWNetwork& network)
 {
     const auto paths = read(bus, devicePath, &DeviceProxy::availableConnections);
     if (!paths.ok()) {
@@ -44,15 +45,16 @@ std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QStri
             profiles.append({path.path(), settings.value()});
         }
     }
-    return newestProfile(profiles, ssid);
+    return newestProfile(profiles, network);
 }
 
-std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles, const QByteArray& ssid)
+std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles, const CWNetwork& network)
 {
     std::optional<StoredProfile> newest;
     qulonglong newestUse = 0;
     for (const auto& profile : profiles) {
-        if (profile.settings[wirelessSection].value(u"ssid"_s).toByteArray() != ssid) {
+        const auto name = profile.settings[wirelessSection].value(u"ssid"_s).toByteArray();
+        if (name != network.ssidData || !fitsSecurity(profile.settings, network)) {
             continue;
         }
         const auto used = profile.settings[u"connection"_s].value(u"timestamp"_s).toULongLong();
@@ -64,7 +66,8 @@ std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles,
     return newest;
 }
 
-bool hasPassword(const BusConnection& bus, const StoredProfile& profile, const ConnectionSettings& settings)
+Result<bool> hasPassword(const BusConnection& bus, const StoredProfile& profile,
+                         const ConnectionSettings& settings)
 {
     const auto name = passwordSetting(settings);
     if (name.isEmpty()) {
@@ -72,7 +75,10 @@ bool hasPassword(const BusConnection& bus, const StoredProfile& profile, const C
     }
     Call<ProfileProxy> call(bus, profile.path);
     auto secrets = call.proxy().GetSecrets(securitySection);
-    secrets.waitForFinished();
+    awaitCall(secrets);
+    if (!secrets.isFinished()) {
+        return Error{u"NetworkManager has not answered yet"_s};
+    }
     if (secrets.isError()) {
         return false;
     }

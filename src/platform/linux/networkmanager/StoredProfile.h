@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/CWNetwork.h"
 #include "platform/Result.h"
 #include "platform/linux/networkmanager/BusConnection.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 
-#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -19,20 +19,21 @@ struct StoredProfile
     ConnectionSettings settings;
 };
 
-/// The profile for the network of that name that was used last, of those that NetworkManager could activate
-/// on the device now and that this user may see; absent where there is none.
+/// The profile for the network that was used last, of those that NetworkManager could activate on the device
+/// now and that this user may see; absent where there is none.
 [[nodiscard]] std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
-                                                         const QByteArray& ssid);
+                                                         const CWNetwork& network);
 
-/// Of these the profile for the network of that name that was used last, the first of several; absent where
-/// none is for it. Settings of a wrong type count as not set.
+/// Of these the profile for the network, by its name and security, that was used last, the first of several;
+/// absent where none is for it. Settings of a wrong type count as not set.
 [[nodiscard]] std::optional<StoredProfile> newestProfile(const QList<StoredProfile>& profiles,
-                                                         const QByteArray& ssid);
+                                                         const CWNetwork& network);
 
 /// Whether `settings` hold no password but the one that the profile has; false where this user may not know
-/// that one.
-[[nodiscard]] bool hasPassword(const BusConnection& bus, const StoredProfile& profile,
-                               const ConnectionSettings& settings);
+/// that one. NetworkManager may have to ask the desktop for it: meanwhile the thread handles its events, all
+/// but the user's input. The error is that the application quits.
+[[nodiscard]] Result<bool> hasPassword(const BusConnection& bus, const StoredProfile& profile,
+                                       const ConnectionSettings& settings);
 
 /// The profile's settings with the password of `settings`, which have one, and with all else as it is.
 [[nodiscard]] ConnectionSettings withPassword(const StoredProfile& profile,

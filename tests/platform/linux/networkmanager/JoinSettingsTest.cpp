@@ -72,6 +72,32 @@ TEST(JoinSettings, TakeOnlyPasswordsThatCanBeRight)
     EXPECT_EQ(security({wpa2Personal}, {}), u"The network needs a password"_s);
 }
 
+TEST(JoinSettings, FitTheSecurityThatTheyAreFor)
+{
+    const auto fitting = [](std::initializer_list<CWSecurity> codes) {
+        QStringList names;
+        for (const auto& name : {u""_s, u"none"_s, u"ieee8021x"_s, u"wpa-psk"_s, u"sae"_s, u"wpa-eap"_s,
+                                 u"wpa-eap-suite-b-192"_s, u"owe"_s}) {
+            ConnectionSettings profile;
+            if (!name.isEmpty()) {
+                profile[securitySection] = {{u"key-mgmt"_s, name}};
+            }
+            if (fitsSecurity(profile, networkWith(codes))) {
+                names.append(name);
+            }
+        }
+        return names.join(u' ');
+    };
+    EXPECT_EQ(fitting({none}), u" owe"_s);
+    EXPECT_EQ(fitting({owe}), u"owe"_s);
+    EXPECT_EQ(fitting({wep}), u"none ieee8021x"_s);
+    EXPECT_EQ(fitting({wpaPersonal, personal}), u"wpa-psk"_s);
+    EXPECT_EQ(fitting({wpa2Personal, wpa3Personal, wpa3Transition, personal}), u"wpa-psk sae"_s);
+    EXPECT_EQ(fitting({wpa3Personal, personal}), u"sae"_s);
+    EXPECT_EQ(fitting({wpa2Personal, personal, wpa2Enterprise, enterprise}),
+              u"wpa-psk wpa-eap wpa-eap-suite-b-192"_s);
+}
+
 TEST(JoinSettings, PassEveryByteOfTheName)
 {
     auto network = networkWith({});

@@ -6,16 +6,18 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-PrivateBus::PrivateBus() : m_address(u"unix:path="_s + m_directory.filePath(u"bus"_s))
+PrivateBus::PrivateBus(const QString& refusedName)
+    : m_address(u"unix:path="_s + m_directory.filePath(u"bus"_s))
 {
     QFile configuration(m_directory.filePath(u"bus.conf"_s));
     if (!configuration.open(QIODevice::WriteOnly)) {
         return;
     }
+    const auto refusal = refusedName.isEmpty() ? QString() : u"<deny own='%1'/>"_s.arg(refusedName);
     configuration.write(
         u"<busconfig><listen>%1</listen><policy context='default'>"
-        "<allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/></policy></busconfig>"_s
-            .arg(m_address)
+        "<allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/>%2</policy></busconfig>"_s
+            .arg(m_address, refusal)
             .toUtf8());
     configuration.close();
     begin();

@@ -10,7 +10,8 @@ namespace aerolith {
 class PrivateBus
 {
 public:
-    PrivateBus();
+    /// One that gives everybody every name, but for this one.
+    explicit PrivateBus(const QString& refusedName = {});
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
     ~PrivateBus();
