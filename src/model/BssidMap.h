@@ -4,7 +4,6 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <cstddef>
 #include <iterator>
@@ -78,18 +77,6 @@ public:
     {
         const qsizetype rank = m_index.rankOf(BssidKey(bssid));
         return rank == BssidIndex::nowhere ? end() : const_iterator(*this, rank);
-    }
-
-    [[nodiscard]] bool contains(const QString& bssid) const { return find(bssid) != end(); }
-
-    [[nodiscard]] QStringList keys() const
-    {
-        QStringList keys;
-        keys.reserve(size());
-        for (const Entry entry : *this) {
-            keys.append(entry.bssid);
-        }
-        return keys;
     }
 
     [[nodiscard]] const BssidIndex& index() const { return m_index; }

@@ -138,10 +138,12 @@ TEST_F(AerolithScan, SortsLastAndHonoursTheStoredSettings)
 TEST_F(AerolithScan, WatchesWithALineForEachAccessPointAndCycle)
 {
     write(u"air.json"_s, R"({"cycles": [
-        {"networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -40},
+        {"joined": {"ssid": "Quay", "bssid": "02:00:00:00:00:02"},
+         "networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -40},
                       {"bssid": "02:00:00:00:00:02", "ssid": "Quay", "rssi": -70}]},
         {"error": "Busy"},
-        {"networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -42}]}]})");
+        {"joined": {"ssid": "A\nb", "bssid": "02:00:00:00:00:01"},
+         "networks": [{"bssid": "02:00:00:00:00:01", "ssid": "A\nb", "rssi": -42}]}]})");
     const Outcome outcome = run(u"--simulate air.json --watch --cycles 3 --interval 0"_s);
     EXPECT_EQ(outcome.status, 0);
     const QByteArrayList written = outcome.output.split('\n');
@@ -152,16 +154,19 @@ TEST_F(AerolithScan, WatchesWithALineForEachAccessPointAndCycle)
         int cycle;
         bool heard;
         int rssi;
+        bool joined;
     };
 
-    const Line expected[] = {{1, true, -40}, {1, true, -70}, {3, true, -42}, {3, false, -70}};
+    const Line expected[] = {
+        {1, true, -70, true}, {1, true, -40, false}, {3, true, -42, true}, {3, false, -70, true}};
     for (qsizetype i = 0; i < 4; ++i) {
         const QJsonObject line = QJsonDocument::fromJson(written[i]).object();
         EXPECT_EQ(line[u"cycle"_s], QJsonValue(expected[i].cycle)) << written[i].toStdString();
         EXPECT_EQ(line[u"heard"_s], QJsonValue(expected[i].heard));
         EXPECT_EQ(line[u"rssi"_s], QJsonValue(expected[i].rssi));
+        EXPECT_EQ(line[u"isCurrentNetwork"_s], QJsonValue(expected[i].joined));
     }
-    EXPECT_EQ(QJsonDocument::fromJson(written[0]).object()[u"ssidBytes"_s], QJsonValue(u"410a62"_s));
+    EXPECT_EQ(QJsonDocument::fromJson(written[1]).object()[u"ssidBytes"_s], QJsonValue(u"410a62"_s));
     EXPECT_EQ(run(u"--simulate air.json --watch --cycles 2 --interval 0"_s).status, 1);
     EXPECT_EQ(run(u"--simulate --watch --interval 0 --list a.csv"_s).status, 2);
 }

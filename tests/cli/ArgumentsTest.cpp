@@ -16,15 +16,6 @@ Result<Arguments> parsed(const QString& line)
 
 } // namespace
 
-TEST(Arguments, HaveDefaults)
-{
-    const Arguments arguments = parsed(u""_s).value();
-    EXPECT_FALSE(arguments.simulate || arguments.cycles || arguments.interval || arguments.sort ||
-                 arguments.listFile);
-    EXPECT_FALSE(arguments.visibleOnly || arguments.watch);
-    EXPECT_EQ(arguments.format, ExportFormat::csv);
-}
-
 TEST(Arguments, AreRead)
 {
     const Arguments arguments =

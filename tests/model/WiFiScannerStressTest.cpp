@@ -1,17 +1,13 @@
 // The engine on a simulated radio in the hands of a user without a plan: what must hold after every cycle,
 // whatever came in between. AEROLITH_STRESS_CYCLES and AEROLITH_STRESS_SEED make other runs of it.
 
+#include "model/Bssids.h"
 #include "model/HiddenList.h"
 #include "model/Ordering.h"
 #include "model/SettingKeys.h"
-#include "model/WiFiScanner.h"
 #include "platform/simulated/SimulatedRadio.h"
-#include "support/FakeWiFi.h"
-#include "support/ManualMainQueue.h"
-#include "support/ManualSerialQueue.h"
-#include "support/MemoryDefaults.h"
+#include "support/Engine.h"
 #include "support/Printing.h"
-#include "support/RecordingLog.h"
 
 #include <QFile>
 
@@ -135,20 +131,13 @@ private:
     std::thread m_thread;
 };
 
-class Stress
+class Stress : private ManualSurroundings
 {
 public:
-    explicit Stress(int seed) : m_dice(seed), m_radio(air(m_dice), m_main)
+    explicit Stress(int seed) : m_dice(seed), m_radio(air(m_dice), main)
     {
-        m_scanner.emplace(m_selection, Surroundings{.wifiClient = m_radio.wifiClient(),
-                                                    .locationManager = m_radio.locationManager(),
-                                                    .userDefaults = m_defaults,
-                                                    .mainQueue = m_main,
-                                                    .makeSerialQueue = m_scanTasks.factory(),
-                                                    .clock = m_main,
-                                                    .log = m_log,
-                                                    .locale = {}});
-        m_scanThread.emplace(m_scanTasks);
+        m_scanner.emplace(m_selection, around(m_radio.wifiClient(), m_radio.locationManager()));
+        m_scanThread.emplace(scanTasks);
     }
 
     /// One cycle, with the user at work before it, while it runs, and before it is applied. The clock, which
@@ -158,23 +147,23 @@ public:
         m_before = m_selection.selectedBSSID();
         m_chosen.clear();
         m_largestLimit = std::max<qint64>(m_scanner->historyLimit(), 0);
-        m_main.advance(Seconds(0.5 * m_dice.below(6)));
+        main.advance(Seconds(0.5 * m_dice.below(6)));
         act(m_dice.below(3));
         m_scanner->scanNetworks();
         m_scanThread->begin();
         act(m_dice.below(8));
         m_scanThread->finish();
         act(m_dice.below(3));
-        m_main.drain();
-        m_log.take();
+        main.drain();
+        log.take();
     }
 
     void check()
     {
         const auto networks = m_scanner->allNetworks();
         const auto histories = m_scanner->networkHistory();
-        ASSERT_EQ(networks.keys(), histories.keys());
-        ASSERT_EQ(networks.keys(), m_scanner->lastSeenTimestamp().keys());
+        ASSERT_EQ(bssidsOf(networks), bssidsOf(histories));
+        ASSERT_EQ(bssidsOf(networks), bssidsOf(m_scanner->lastSeenTimestamp()));
         // A cycle that finds nothing out cuts no history.
         if (m_scanner->status() == ScannerStatus::idle) {
             m_bound = m_largestLimit;
@@ -228,7 +217,7 @@ private:
             setHistoryLimit();
             break;
         case 10:
-            m_defaults.setDouble(m_dice.below(4), SettingKeys::scanInterval);
+            defaults.setDouble(m_dice.below(4), SettingKeys::scanInterval);
             m_scanner->startTimer();
             break;
         case 11:
@@ -242,7 +231,7 @@ private:
             (void)m_scanner->findNetwork(u"Net 3"_s);
             break;
         default:
-            m_main.runOne();
+            main.runOne();
         }
     }
 
@@ -268,7 +257,7 @@ private:
     {
         const qint64 limit = m_dice.below(30) - 2;
         m_largestLimit = std::max(m_largestLimit, limit);
-        m_defaults.setInteger(limit, SettingKeys::historyLimit);
+        defaults.setInteger(limit, SettingKeys::historyLimit);
     }
 
     void setAccess()
@@ -288,13 +277,13 @@ private:
         ASSERT_EQ(record.signalHistory.begin(), history.begin()) << "the same samples";
         ASSERT_TRUE(std::is_sorted(history.begin(), history.end(),
                                    [](const auto& a, const auto& b) { return a.timestamp < b.timestamp; }));
-        ASSERT_TRUE(history.isEmpty() || history.last().timestamp <= m_main.now());
+        ASSERT_TRUE(history.isEmpty() || history.last().timestamp <= main.now());
     }
 
     /// In the order of the last scan or in the user's, whichever came last.
     void checkList(const BssidMap<WiFiNetwork>& networks)
     {
-        const QStringList hidden = loadHiddenBSSIDs(m_defaults);
+        const QStringList hidden = loadHiddenBSSIDs(defaults);
         WiFiNetworkList visible;
         for (const auto entry : networks) {
             if (m_scanner->showHiddenNetworks() || !hidden.contains(entry.bssid)) {
@@ -308,13 +297,9 @@ private:
     }
 
     Dice m_dice;
-    ManualMainQueue m_main;
-    ManualSerialTasks m_scanTasks;
-    MemoryDefaults m_defaults;
-    RecordingLog m_log;
     Collation m_collation{QByteArray()};
     SimulatedRadio m_radio;
-    SelectionStore m_selection{m_main};
+    SelectionStore m_selection{main};
     std::optional<WiFiScanner> m_scanner;
     std::optional<ScanThread> m_scanThread;
     /// Selected before the cycle, and chosen during it.

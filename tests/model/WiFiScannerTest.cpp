@@ -1,5 +1,6 @@
 // The scan cycle: authorization, timing, the order of its steps, its failures and what overtakes it.
 
+#include "model/Bssids.h"
 #include "model/SettingKeys.h"
 #include "support/Engine.h"
 #include "support/Printing.h"
@@ -40,8 +41,8 @@ int cyclesWithin(Engine& engine, double seconds)
 
 void expectMapsInStep(const WiFiScanner& scanner)
 {
-    EXPECT_EQ(scanner.allNetworks().keys(), scanner.networkHistory().keys());
-    EXPECT_EQ(scanner.allNetworks().keys(), scanner.lastSeenTimestamp().keys());
+    EXPECT_EQ(bssidsOf(scanner.allNetworks()), bssidsOf(scanner.networkHistory()));
+    EXPECT_EQ(bssidsOf(scanner.allNetworks()), bssidsOf(scanner.lastSeenTimestamp()));
 }
 
 } // namespace

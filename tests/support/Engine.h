@@ -13,21 +13,36 @@
 
 namespace aerolith {
 
+/// What the scan engine stands on, but for the radio: driven by the test.
+class ManualSurroundings
+{
+public:
+    [[nodiscard]] Surroundings around(CWWiFiClient& wifiClient, CLLocationManager& locationManager)
+    {
+        return {.wifiClient = wifiClient,
+                .locationManager = locationManager,
+                .userDefaults = defaults,
+                .mainQueue = main,
+                .makeSerialQueue = scanTasks.factory(),
+                .clock = main,
+                .log = log,
+                .locale = {}};
+    }
+
+    ManualMainQueue main;
+    ManualSerialTasks scanTasks;
+    MemoryDefaults defaults;
+    RecordingLog log;
+};
+
 /// The scan engine on surroundings that the test drives.
-class Engine
+class Engine : public ManualSurroundings
 {
 public:
     explicit Engine(CLAuthorizationStatus initial = CLAuthorizationStatus::authorizedWhenInUse)
     {
         location.setInitial(initial);
-        scanner.emplace(selection, Surroundings{.wifiClient = wifi,
-                                                .locationManager = location,
-                                                .userDefaults = defaults,
-                                                .mainQueue = main,
-                                                .makeSerialQueue = scanTasks.factory(),
-                                                .clock = main,
-                                                .log = log,
-                                                .locale = {}});
+        scanner.emplace(selection, around(wifi, location));
     }
 
     /// One whole cycle with these results, a second after the last one.
@@ -56,10 +71,6 @@ public:
         return bssids;
     }
 
-    ManualMainQueue main;
-    ManualSerialTasks scanTasks;
-    MemoryDefaults defaults;
-    RecordingLog log;
     FakeWiFiClient wifi;
     FakeLocationManager location;
     SelectionStore selection{main};

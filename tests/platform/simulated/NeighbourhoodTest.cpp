@@ -3,56 +3,14 @@
 #include "support/Printing.h"
 
 #include <QCryptographicHash>
-#include <QMap>
 #include <QSet>
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 namespace aerolith {
 namespace {
-
-/// Signal by access point and cycle, for the cycles in which it was heard.
-QMap<QString, QMap<int, qint64>> signalsByAccessPoint(const Scenario& scenario)
-{
-    QMap<QString, QMap<int, qint64>> signalsOf;
-    for (int cycle = 0; cycle < scenario.cycles.size(); ++cycle) {
-        for (const CWNetwork& network : scenario.cycles[cycle].networks) {
-            signalsOf[network.bssid.value()][cycle] = network.rssiValue;
-        }
-    }
-    return signalsOf;
-}
-
-TEST(Neighbourhood, driftsComesAndGoesWithoutAJump)
-{
-    const Scenario scenario = neighbourhood();
-    ASSERT_EQ(scenario.afterLast, AfterLast::loop);
-    const int cycles = static_cast<int>(scenario.cycles.size());
-    const auto signalsOf = signalsByAccessPoint(scenario);
-    EXPECT_GE(signalsOf.size(), 28);
-    EXPECT_LE(signalsOf.size(), 34);
-    int constant = 0;
-    int passing = 0;
-    for (const auto& signal : signalsOf) {
-        QSet<qint64> values;
-        for (int cycle = 0; cycle < cycles; ++cycle) {
-            const int next = (cycle + 1) % cycles;
-            if (signal.contains(cycle)) {
-                values.insert(signal[cycle]);
-                EXPECT_LE(std::llabs(signal[cycle] - signal.value(next, -92)), 12) << "after cycle " << cycle;
-            }
-        }
-        EXPECT_GT(values.size(), 3);
-        constant += signal.size() == cycles ? 1 : 0;
-        passing += signal.size() < cycles ? 1 : 0;
-    }
-    EXPECT_GE(constant, 20);
-    EXPECT_GE(passing, 5);
-}
 
 TEST(Neighbourhood, showsEveryKindOfAccessPoint)
 {

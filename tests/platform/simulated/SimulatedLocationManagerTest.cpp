@@ -1,11 +1,11 @@
 #include "platform/simulated/SimulatedLocationManager.h"
 
+#include "support/FakeWiFi.h"
 #include "support/ManualMainQueue.h"
 
 #include <gmock/gmock.h>
 
 #include <optional>
-#include <vector>
 
 namespace aerolith {
 namespace {
@@ -13,17 +13,6 @@ namespace {
 using enum CLAuthorizationStatus;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class Listener : public CLLocationManagerDelegate
-{
-public:
-    void locationManagerDidChangeAuthorization(CLLocationManager& manager) override
-    {
-        heard.push_back(manager.authorizationStatus());
-    }
-
-    std::vector<CLAuthorizationStatus> heard;
-};
 
 class SimulatedLocationManagerTest : public testing::Test
 {
@@ -34,8 +23,8 @@ protected:
     }
 
     ManualMainQueue main;
-    Listener listener;
-    Listener other;
+    RecordingDelegate listener;
+    RecordingDelegate other;
     std::optional<SimulatedLocationManager> manager;
 };
 
@@ -43,15 +32,15 @@ TEST_F(SimulatedLocationManagerTest, tellsOnceAfterAttachmentAndAfterEveryChange
 {
     start(denied);
     manager->setDelegate(&listener);
-    EXPECT_THAT(listener.heard, IsEmpty());
+    EXPECT_THAT(listener.told, IsEmpty());
     main.drain();
-    EXPECT_THAT(listener.heard, ElementsAre(denied));
+    EXPECT_THAT(listener.told, ElementsAre(denied));
     manager->setAuthorization(denied);
     manager->setAuthorization(authorizedAlways);
     EXPECT_EQ(manager->authorizationStatus(), authorizedAlways);
-    EXPECT_THAT(listener.heard, ElementsAre(denied));
+    EXPECT_THAT(listener.told, ElementsAre(denied));
     main.drain();
-    EXPECT_THAT(listener.heard, ElementsAre(denied, authorizedAlways));
+    EXPECT_THAT(listener.told, ElementsAre(denied, authorizedAlways));
 }
 
 TEST_F(SimulatedLocationManagerTest, answersARequestOnceAndOnALaterTurn)
@@ -62,11 +51,11 @@ TEST_F(SimulatedLocationManagerTest, answersARequestOnceAndOnALaterTurn)
     manager->requestWhenInUseAuthorization();
     EXPECT_EQ(manager->authorizationStatus(), notDetermined);
     main.drain();
-    EXPECT_THAT(listener.heard, ElementsAre(notDetermined, restricted));
+    EXPECT_THAT(listener.told, ElementsAre(notDetermined, restricted));
     manager->setAuthorization(authorizedWhenInUse);
     manager->requestWhenInUseAuthorization();
     main.drain();
-    EXPECT_THAT(listener.heard, ElementsAre(notDetermined, restricted, authorizedWhenInUse));
+    EXPECT_THAT(listener.told, ElementsAre(notDetermined, restricted, authorizedWhenInUse));
 }
 
 TEST_F(SimulatedLocationManagerTest, forgetsAnEarlierDelegateAndItself)
@@ -75,7 +64,7 @@ TEST_F(SimulatedLocationManagerTest, forgetsAnEarlierDelegateAndItself)
     manager->setDelegate(&listener);
     manager->setDelegate(&other);
     main.drain();
-    EXPECT_THAT(other.heard, ElementsAre(denied));
+    EXPECT_THAT(other.told, ElementsAre(denied));
     manager->setAuthorization(restricted);
     manager->setDelegate(nullptr);
     main.drain();
@@ -83,8 +72,8 @@ TEST_F(SimulatedLocationManagerTest, forgetsAnEarlierDelegateAndItself)
     manager->requestWhenInUseAuthorization();
     manager.reset();
     main.drain();
-    EXPECT_THAT(listener.heard, IsEmpty());
-    EXPECT_THAT(other.heard, ElementsAre(denied));
+    EXPECT_THAT(listener.told, IsEmpty());
+    EXPECT_THAT(other.told, ElementsAre(denied));
 }
 
 } // namespace
