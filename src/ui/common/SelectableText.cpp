@@ -2,8 +2,10 @@
 
 #include "ui/common/Theme.h"
 
+#include <QScreen>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -19,7 +21,6 @@ SelectableText::SelectableText(int pixelSize, QWidget* parent) : QTextEdit(paren
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     document()->setDocumentMargin(0);
     viewport()->setAutoFillBackground(false);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -31,7 +32,8 @@ int SelectableText::heightForWidth(int width) const
 {
     const std::unique_ptr<QTextDocument> measured(document()->clone());
     measured->setTextWidth(width);
-    return static_cast<int>(std::ceil(measured->size().height()));
+    const int whole = static_cast<int>(std::ceil(measured->size().height()));
+    return std::min(whole, screen()->availableGeometry().height() / 2);
 }
 
 QSize SelectableText::sizeHint() const

@@ -5,7 +5,7 @@
 namespace aerolith {
 
 /// Plain text to read and to copy from, by pointer and keys. It looks like a label, but a word that is wider
-/// than the place it has is broken.
+/// than the place it has is broken, and a text that would take more than half the screen's height scrolls.
 class SelectableText : public QTextEdit
 {
 public:

@@ -1,8 +1,9 @@
 #include "ui/common/StatusBarFrame.h"
 
 #include "ui/common/Divider.h"
+#include "ui/common/Theme.h"
 
-#include <QVBoxLayout>
+#include <QGridLayout>
 
 namespace aerolith {
 
@@ -15,16 +16,14 @@ constexpr int sidePadding = 12;
 
 StatusBarFrame::StatusBarFrame(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout)
 {
-    setMinimumHeight(barHeight);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFixedHeight(Theme::scaledToText(barHeight));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(new Divider(Qt::Horizontal));
-    column->addLayout(m_row);
+    auto* layers = new QGridLayout(this);
+    layers->setContentsMargins({});
+    layers->addLayout(m_row, 0, 0);
+    layers->addWidget(new Divider(Qt::Horizontal), 0, 0, Qt::AlignTop);
     m_row->setContentsMargins(sidePadding, 0, sidePadding, 0);
 }
 

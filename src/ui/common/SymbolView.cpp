@@ -15,14 +15,6 @@ SymbolView::SymbolView(QString symbol, int size, Emphasis emphasis, QWidget* par
     setFixedSize(size, size);
 }
 
-void SymbolView::setSymbol(const QString& symbol)
-{
-    if (symbol != m_symbol) {
-        m_symbol = symbol;
-        update();
-    }
-}
-
 void SymbolView::paintEvent(QPaintEvent*)
 {
     const QColor text = palette().color(foregroundRole());

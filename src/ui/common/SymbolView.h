@@ -17,10 +17,6 @@ public:
     /// `size` in device-independent pixels.
     SymbolView(QString symbol, int size, Emphasis emphasis, QWidget* parent = nullptr);
 
-    [[nodiscard]] const QString& symbol() const { return m_symbol; }
-
-    void setSymbol(const QString& symbol);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -29,8 +29,12 @@ Seconds VisibleClock::time() const
     return m_elapsed + (isRunning() ? Seconds(std::chrono::milliseconds(m_running.elapsed())) : Seconds(0));
 }
 
-bool VisibleClock::eventFilter(QObject* /*watched*/, QEvent* event)
+bool VisibleClock::eventFilter(QObject* watched, QEvent* event)
 {
+    // The window is shown also where the widget in it is hidden.
+    if (watched != &m_widget && event->type() != QEvent::Expose) {
+        return false;
+    }
     switch (event->type()) {
     case QEvent::Show:
         // A window that comes back from being minimised shows its widgets spontaneously.

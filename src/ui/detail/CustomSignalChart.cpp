@@ -1,6 +1,7 @@
 #include "ui/detail/CustomSignalChart.h"
 
 #include "ui/common/AccessibleRole.h"
+#include "ui/common/EaseInOut.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/Theme.h"
 
@@ -18,6 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int usualWidth = 250;
 constexpr int fullHeight = 250;
 constexpr int miniHeight = 50;
 constexpr int drawingMilliseconds = 1500;
@@ -50,7 +52,7 @@ CustomSignalChart::CustomSignalChart(const SignalChartParameters& parameters, QW
     m_drawing.setStartValue(0.0);
     m_drawing.setEndValue(1.0);
     m_drawing.setDuration(drawingMilliseconds);
-    m_drawing.setEasingCurve(QEasingCurve::InOutQuad);
+    m_drawing.setEasingCurve(easeInOut());
     connect(&m_drawing, &QVariantAnimation::valueChanged, this, &CustomSignalChart::finishUnlessSeen);
 }
 
@@ -77,7 +79,7 @@ QSize CustomSignalChart::sizeHint() const
     const QMargins margins = contentsMargins();
     // The values along its edge are text.
     const int height = m_parameters.showMiniVersion ? miniHeight : Theme::scaledToText(fullHeight);
-    return {fullHeight, margins.top() + height + margins.bottom()};
+    return {usualWidth, margins.top() + height + margins.bottom()};
 }
 
 QSize CustomSignalChart::minimumSizeHint() const
@@ -140,6 +142,7 @@ HoverableDot CustomSignalChart::dot(const SignalChartGeometry& geometry, qsizety
     const SignalHistory& sample = m_history[index];
     return {.position = geometry.signalPoint(index),
             .data = sample,
+            .isHovered = sample.id == hoveredPointId(),
             .growth = m_hover.growth(sample.id),
             .totalWidth = static_cast<double>(contentsRect().width())};
 }
@@ -172,19 +175,22 @@ void CustomSignalChart::repaintDot(const QUuid& id)
 {
     if (const qsizetype index = indexOf(id); index >= 0) {
         const HoverableDot changed = dot(geometry(), index);
-        const QRectF extent = changed.square().united(changed.readOutBox(font()));
-        // One more than it covers, for smooth edges and a dot that has just been larger.
-        const double around = HoverableDot::dotRadius + 1;
-        update(extent.translated(contentsRect().topLeft())
-                   .adjusted(-around, -around, around, around)
+        // One more, for smooth edges.
+        update(changed.extent(font())
+                   .translated(contentsRect().topLeft())
+                   .adjusted(-1, -1, 1, 1)
                    .toAlignedRect());
     }
 }
 
 void CustomSignalChart::hover(const std::optional<QUuid>& id)
 {
+    if (id == hoveredPointId()) {
+        return;
+    }
     m_hover.hover(id);
-    if (!wantsAnimations()) {
+    // A chart that is hidden loses the focus, and with it what was hovered, only afterwards.
+    if (!wantsAnimations() || !isVisible()) {
         m_hover.settle();
     }
     nameForAssistance();
@@ -207,15 +213,19 @@ void CustomSignalChart::hoverSample(qsizetype index)
     }
 }
 
-void CustomSignalChart::mouseMoveEvent(QMouseEvent* event)
+void CustomSignalChart::hoverAt(const std::optional<QPointF>& pointer)
 {
-    const QPointF pointer = event->position() - contentsRect().topLeft();
     const QList<HoverableDot> all = dots();
     // Where dots overlap, the pointer is on the one that is seen.
-    const auto topmost = std::find_if(all.crbegin(), all.crend(), [&pointer](const HoverableDot& dot) {
-        return dot.square().contains(pointer);
+    const auto topmost = std::find_if(all.crbegin(), all.crend(), [&](const HoverableDot& dot) {
+        return pointer && dot.target().contains(*pointer - contentsRect().topLeft());
     });
     hover(topmost == all.crend() ? std::nullopt : std::optional(topmost->data.id));
+}
+
+void CustomSignalChart::mouseMoveEvent(QMouseEvent* event)
+{
+    hoverAt(event->position());
 }
 
 void CustomSignalChart::leaveEvent(QEvent* event)
@@ -253,7 +263,8 @@ void CustomSignalChart::focusInEvent(QFocusEvent* event)
 
 void CustomSignalChart::focusOutEvent(QFocusEvent* event)
 {
-    hover({});
+    // A pointer goes on reading in a window that is not active.
+    hoverAt(underMouse() ? std::optional(mapFromGlobal(QCursor::pos())) : std::nullopt);
     QWidget::focusOutEvent(event);
 }
 

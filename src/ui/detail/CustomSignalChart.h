@@ -55,6 +55,8 @@ private:
     [[nodiscard]] qsizetype hoveredIndex() const;
     void hover(const std::optional<QUuid>& id);
     void hoverSample(qsizetype index);
+    /// `pointer` in the widget's coordinates; absent where it is elsewhere.
+    void hoverAt(const std::optional<QPointF>& pointer);
     void nameForAssistance();
     void repaintDot(const QUuid& id);
 

@@ -1,5 +1,7 @@
 #include "ui/detail/DotHover.h"
 
+#include "ui/common/EaseInOut.h"
+
 #include <utility>
 
 namespace aerolith {
@@ -59,7 +61,7 @@ void DotHover::turn(const QUuid& id, QVariantAnimation::Direction direction)
     animation->setStartValue(0.0);
     animation->setEndValue(1.0);
     animation->setDuration(milliseconds);
-    animation->setEasingCurve(QEasingCurve::InOutQuad);
+    animation->setEasingCurve(easeInOut());
     animation->setDirection(direction);
     connect(animation, &QVariantAnimation::valueChanged, this, [this, id] { m_repaint(id); });
     connect(animation, &QVariantAnimation::finished, this, [this, id] {

@@ -8,6 +8,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <cmath>
 
 namespace aerolith {
 
@@ -31,10 +32,10 @@ QRectF centredOn(const QPointF& centre, const QSizeF& size)
 
 } // namespace
 
-QRectF HoverableDot::square() const
+QRectF HoverableDot::target() const
 {
-    const double diameter = 2 * dotRadius * (1 + growth);
-    return centredOn(position, {diameter, diameter});
+    const double side = 2 * (isHovered ? hoveredRadius : dotRadius);
+    return centredOn(position, {side, side});
 }
 
 QStringList HoverableDot::readOut() const
@@ -54,18 +55,24 @@ QRectF HoverableDot::readOutBox(const QFont& font) const
                      {width + 2 * boxPadding, height + 2 * boxPadding});
 }
 
-void HoverableDot::paintDot(QPainter& painter, const QPalette& palette) const
+QRectF HoverableDot::extent(const QFont& font) const
 {
+    return centredOn(position, {2 * hoveredRadius, 2 * hoveredRadius}).united(readOutBox(font));
+}
+
+void HoverableDot::paint(QPainter& painter, const QPalette& palette, const QFont& font) const
+{
+    const double radius = std::lerp(dotRadius, hoveredRadius, growth);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Theme::green(palette));
-    painter.drawEllipse(square());
+    painter.drawEllipse(position, radius, radius);
+    if (growth > 0) {
+        paintReadOut(painter, font);
+    }
 }
 
 void HoverableDot::paintReadOut(QPainter& painter, const QFont& font) const
 {
-    if (growth <= 0) {
-        return;
-    }
     const QRectF box = readOutBox(font);
     const QRectF text = box.adjusted(0, boxPadding, 0, -boxPadding);
     const QStringList lines = readOut();

@@ -17,17 +17,20 @@ namespace aerolith {
 struct HoverableDot
 {
     static constexpr double dotRadius = 3;
+    static constexpr double hoveredRadius = 2 * dotRadius;
 
     /// The centre of the dot.
     QPointF position;
     SignalHistory data;
-    /// From 0, at rest, to 1, hovered: twice as large, the box fully visible.
+    /// The pointer rests on it.
+    bool isHovered = false;
+    /// How far that shows: from 0, as at rest, to 1, twice as large and the box fully visible.
     double growth = 0;
     /// Of the chart's rectangle: near its right edge the box stands to the left.
     double totalWidth = 0;
 
-    /// The square around the dot as large as it is now, which is what the pointer has to rest on.
-    [[nodiscard]] QRectF square() const;
+    /// What the pointer has to rest on: the square around the dot, at once as large as the dot becomes.
+    [[nodiscard]] QRectF target() const;
 
     /// The lines of the box.
     [[nodiscard]] QStringList readOut() const;
@@ -35,9 +38,12 @@ struct HoverableDot
     /// Also where it reaches past the chart. `font` is the chart's; its family counts, not its size.
     [[nodiscard]] QRectF readOutBox(const QFont& font) const;
 
-    void paintDot(QPainter& painter, const QPalette& palette) const;
+    /// All that it paints lies in here.
+    [[nodiscard]] QRectF extent(const QFont& font) const;
 
-    /// Nothing while the dot is at rest.
+    void paint(QPainter& painter, const QPalette& palette, const QFont& font) const;
+
+private:
     void paintReadOut(QPainter& painter, const QFont& font) const;
 };
 

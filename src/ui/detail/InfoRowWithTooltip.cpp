@@ -20,18 +20,40 @@ constexpr int padding = 2;
 /// That a text field keeps around its text; taken back, so that values end where the chart does.
 constexpr int fieldPadding = 2;
 
+class ValueField : public QLineEdit
+{
+public:
+    ValueField()
+    {
+        setReadOnly(true);
+        setFrame(false);
+        setTextMargins(-fieldPadding, 0, -fieldPadding, 0);
+        connect(this, &QLineEdit::textChanged, this, &ValueField::takeFocusIfCutOff);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLineEdit::resizeEvent(event);
+        takeFocusIfCutOff();
+    }
+
+private:
+    void takeFocusIfCutOff()
+    {
+        const bool isCutOff = fontMetrics().horizontalAdvance(text()) > width();
+        setFocusPolicy(isCutOff ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+};
+
 } // namespace
 
 InfoRowWithTooltip::InfoRowWithTooltip(QWidget* parent)
     : QWidget(parent)
     , m_label(new SecondaryLabel(TextStyle::body))
     , m_symbol(new SymbolView(u"info.circle"_s, symbolSize, SymbolView::Emphasis::secondary))
-    , m_value(new QLineEdit)
+    , m_value(new ValueField)
 {
-    m_value->setReadOnly(true);
-    m_value->setFrame(false);
-    m_value->setTextMargins(-fieldPadding, 0, -fieldPadding, 0);
-    m_value->setFocusPolicy(Qt::ClickFocus);
     m_value->setFont(Theme::font(m_value->font(), TextStyle::body));
     alignValue();
 

@@ -14,8 +14,8 @@ class SymbolView;
 /// One fact as a row: its label, a small symbol that explains it while the pointer rests there, and the value
 /// at the far edge.
 ///
-/// The value can be selected and copied. One that is longer than the row can be moved along with the arrow
-/// keys, so that no name, however wide, widens the pane.
+/// The value can be selected and copied. No name, however wide, widens the pane: a value that is longer than
+/// the row takes the keyboard's focus, and can be moved along with the arrow keys.
 class InfoRowWithTooltip : public QWidget
 {
     Q_OBJECT

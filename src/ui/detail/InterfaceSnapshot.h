@@ -27,7 +27,8 @@ struct InterfaceSnapshot
     [[nodiscard]] static InterfaceSnapshot read(const CWInterface* interface, const HostAddresses& addresses);
 };
 
-/// One fact about the interface, verbatim in every language. The value is plain text in one line.
+/// One fact about the interface, verbatim in every language. The value is plain text, what comes from the air
+/// in one line.
 struct InterfaceFact
 {
     QString label;

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
@@ -19,20 +21,38 @@ constexpr int rowSpacing = 12;
 
 } // namespace
 
-NetworkInfoDialog::NetworkInfoDialog(const CWInterface* interface, const HostAddresses& addresses,
-                                     Workspace& workspace, Log& log, QWidget* parent)
-    : Sheet(sheetWidth, sheetSpacing, parent), m_workspace(workspace), m_log(log)
+NetworkInfoDialog::NetworkInfoDialog(std::shared_ptr<const CWInterface> interface,
+                                     const HostAddresses& addresses, Workspace& workspace, Log& log,
+                                     QWidget* parent)
+    : Sheet(sheetWidth, sheetSpacing, parent)
+    , m_interface(std::move(interface))
+    , m_addresses(addresses)
+    , m_workspace(workspace)
+    , m_log(log)
+    , m_box(new TitledBox(tr("Network Interface Information"), rowSpacing))
 {
     setObjectName(u"networkInfoDialog"_s);
-    const QString title = tr("Network Interface Information");
-    setWindowTitle(title);
-
-    auto* box = new TitledBox(title, rowSpacing);
-    for (const InterfaceFact& fact : interfaceFacts(InterfaceSnapshot::read(interface, addresses))) {
-        box->rows().addWidget(new InfoRow(fact.label, fact.value));
-    }
-    content().addWidget(box);
+    setWindowTitle(tr("Network Interface Information"));
+    content().addWidget(m_box);
     content().addLayout(makeButtons());
+    readInterface();
+}
+
+void NetworkInfoDialog::readInterface()
+{
+    const auto facts = interfaceFacts(InterfaceSnapshot::read(m_interface.get(), m_addresses));
+    // Rows that tell the same stay: the user may be copying from one.
+    if (facts == m_facts) {
+        return;
+    }
+    m_facts = facts;
+    while (const auto* row = m_box->rows().takeAt(0)) {
+        delete row->widget();
+        delete row;
+    }
+    for (const InterfaceFact& fact : facts) {
+        m_box->rows().addWidget(new InfoRow(fact.label, fact.value));
+    }
 }
 
 QLayout* NetworkInfoDialog::makeButtons()

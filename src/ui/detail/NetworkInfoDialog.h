@@ -5,25 +5,37 @@
 #include "platform/Log.h"
 #include "platform/Workspace.h"
 #include "ui/common/Sheet.h"
+#include "ui/detail/InterfaceSnapshot.h"
+
+#include <memory>
 
 namespace aerolith {
 
-/// The sheet that describes the machine's Wi-Fi interface as it was when the sheet was made.
+class TitledBox;
+
+/// The sheet that describes the machine's Wi-Fi interface.
 class NetworkInfoDialog : public Sheet
 {
     Q_OBJECT
 
 public:
-    /// Null is a machine without Wi-Fi. Workspace and log outlive the dialog.
-    NetworkInfoDialog(const CWInterface* interface, const HostAddresses& addresses, Workspace& workspace,
-                      Log& log, QWidget* parent = nullptr);
+    /// Null is a machine without Wi-Fi. Addresses, workspace and log outlive the dialog.
+    NetworkInfoDialog(std::shared_ptr<const CWInterface> interface, const HostAddresses& addresses,
+                      Workspace& workspace, Log& log, QWidget* parent = nullptr);
+
+    /// Shows the interface as it is now.
+    void readInterface();
 
 private:
     [[nodiscard]] QLayout* makeButtons();
     void openNetworkSettings();
 
+    std::shared_ptr<const CWInterface> m_interface;
+    const HostAddresses& m_addresses;
     Workspace& m_workspace;
     Log& m_log;
+    TitledBox* m_box;
+    QList<InterfaceFact> m_facts;
 };
 
 } // namespace aerolith

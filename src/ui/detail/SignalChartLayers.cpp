@@ -36,7 +36,9 @@ void SignalChartLayers::paint(QPainter& painter, double drawn, const QList<Hover
         paintNoiseLine(painter);
     }
     if (isFull) {
-        paintDots(painter, dots);
+        for (const HoverableDot& dot : dots) {
+            dot.paint(painter, palette, font);
+        }
         paintValueLabels(painter);
     }
 }
@@ -65,17 +67,6 @@ void SignalChartLayers::paintSignalLine(QPainter& painter, double drawn) const
 void SignalChartLayers::paintNoiseLine(QPainter& painter) const
 {
     painter.strokePath(geometry().noiseLine(), stroke(Theme::red(palette), parameters.lineWidth));
-}
-
-/// The boxes above all dots: a later dot would stand in the text of one.
-void SignalChartLayers::paintDots(QPainter& painter, const QList<HoverableDot>& dots) const
-{
-    for (const HoverableDot& dot : dots) {
-        dot.paintDot(painter, palette);
-    }
-    for (const HoverableDot& dot : dots) {
-        dot.paintReadOut(painter, font);
-    }
 }
 
 void SignalChartLayers::paintValueLabels(QPainter& painter) const

@@ -1,7 +1,8 @@
 #include "ui/main/BackdropMotion.h"
 
+#include "ui/common/EaseInOut.h"
+
 #include <QEasingCurve>
-#include <QPointF>
 
 #include <algorithm>
 #include <cmath>
@@ -15,21 +16,11 @@ constexpr Seconds ringDelay{0.3};
 constexpr Seconds symbolPeriod{1.5};
 constexpr double smallestSymbolScale = 0.95;
 
-double easedInOut(double progress)
-{
-    static const QEasingCurve curve = [] {
-        QEasingCurve easeInOut(QEasingCurve::BezierSpline);
-        easeInOut.addCubicBezierSegment({0.42, 0}, {0.58, 1}, {1, 1});
-        return easeInOut;
-    }();
-    return curve.valueForProgress(progress);
-}
-
 /// From 0 to 1 in one period, back in the next, and so on; 0 before it starts.
 double thereAndBack(Seconds time, Seconds period)
 {
     const double phase = std::fmod(std::max(time / period, 0.0), 2.0);
-    return easedInOut(phase <= 1 ? phase : 2 - phase);
+    return easeInOut().valueForProgress(phase <= 1 ? phase : 2 - phase);
 }
 
 } // namespace

@@ -87,9 +87,11 @@ void MainWindow::openSettings()
 
 void MainWindow::openNetworkInfo()
 {
-    const std::shared_ptr<CWInterface> interface = m_surroundings.wifiClient.interface();
-    openOver(new NetworkInfoDialog(interface.get(), m_surroundings.desktop.hostAddresses,
-                                   m_surroundings.desktop.workspace, m_surroundings.log, this));
+    auto* dialog =
+        new NetworkInfoDialog(m_surroundings.wifiClient.interface(), m_surroundings.desktop.hostAddresses,
+                              m_surroundings.desktop.workspace, m_surroundings.log, this);
+    connect(&m_scanner, &WiFiScanner::networksChanged, dialog, &NetworkInfoDialog::readInterface);
+    openOver(dialog);
 }
 
 void MainWindow::toggleSidebar()

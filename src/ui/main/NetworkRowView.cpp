@@ -2,6 +2,7 @@
 
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
+#include "ui/common/RowText.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 #include "ui/common/WiFiSignalBars.h"
@@ -48,16 +49,6 @@ NetworkRowMetrics measure(const Fonts& fonts, const QString& name, const QString
             .nameHeight = std::ceil(nameMetrics.height()),
             .detailsHeight = std::ceil(QFontMetricsF(fonts.details).height()),
             .signalWidth = std::ceil(QFontMetricsF(fonts.signal).horizontalAdvance(signal))};
-}
-
-/// Begins at the row's leading side; the text's own direction orders its characters.
-void drawText(QPainter& painter, const QRectF& rect, const QString& text, const QFont& font, bool isMirrored)
-{
-    const QFontMetricsF metrics(font);
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
-    const double left = isMirrored ? rect.right() - metrics.horizontalAdvance(shown) : rect.left();
-    painter.setFont(font);
-    painter.drawText(QPointF(left, std::round(rect.top() + metrics.ascent())), shown);
 }
 
 } // namespace
@@ -125,19 +116,18 @@ void NetworkRowView::paint(QPainter& painter, const QRectF& rect, const QPalette
     }
 
     painter.save();
-    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     // A name can stack marks higher than a line.
     painter.setClipRect(rect);
     painter.setOpacity(opacity());
     WiFiSignalBars{.rssi = network.rssi, .isSelected = isSelected}.paint(painter, layout.bars, palette);
     painter.setPen(label);
-    drawText(painter, layout.name, name(), fonts.name, isMirrored);
+    drawRowText(painter, layout.name, name(), fonts.name, isMirrored);
     if (layout.checkmark) {
         Symbols::paint(painter, *layout.checkmark, u"checkmark.circle.fill"_s, Theme::green(palette));
     }
     painter.setPen(secondary);
-    drawText(painter, layout.details, details(), fonts.details, isMirrored);
-    drawText(painter, layout.signal, signal(), fonts.signal, isMirrored);
+    drawRowText(painter, layout.details, details(), fonts.details, isMirrored);
+    drawRowText(painter, layout.signal, signal(), fonts.signal, isMirrored);
     Symbols::paint(painter, layout.symbol, symbol(), secondary);
     painter.restore();
 }

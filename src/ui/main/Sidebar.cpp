@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QMargins headerPadding{12, 8 - Switch::margin, 12 - Switch::margin, 8 - Switch::margin};
+constexpr int headerSidePadding = 12;
+constexpr int headerPadding = 8;
 
 QLabel* makeCount()
 {
@@ -74,9 +75,13 @@ Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExp
 QLayout* Sidebar::makeHeader()
 {
     auto* header = new QHBoxLayout;
-    header->setContentsMargins(headerPadding);
+    header->setContentsMargins(0, headerPadding - Switch::margin, 0, headerPadding - Switch::margin);
+    header->setSpacing(0);
+    header->addSpacing(headerSidePadding);
     header->addStretch();
     header->addWidget(m_filter);
+    // Unlike margins, it changes sides with the direction of the language.
+    header->addSpacing(headerSidePadding - Switch::margin);
     return header;
 }
 

@@ -93,7 +93,6 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
     , m_publish([this] { showState(); })
     , m_clock(*this, [this] { repaintMoving(); })
 {
-    setObjectName(u"wavingBackground"_s);
     m_message->setObjectName(u"backdropMessage"_s);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setFont(Theme::font(m_message->font(), messageSize, QFont::Medium));

@@ -4,6 +4,7 @@
 #include "ui/common/FocusRing.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
+#include "ui/common/RowText.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 #include "ui/common/WiFiSignalBars.h"
@@ -85,20 +86,13 @@ void NetworkRowInMenu::paint(QPainter& painter, const QRectF& rect, const QPalet
     const MenuRowLayout places = layout(rect, font, painter.layoutDirection());
 
     painter.save();
-    // The text's own direction orders its characters.
-    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     // A name can stack marks higher than a line.
     painter.setClipRect(rect);
     paintBackground(painter, places.row, palette);
     WiFiSignalBars{.rssi = network.rssi}.paint(painter, places.bars, palette);
 
-    const QFontMetricsF metrics(nameFont(font));
-    const QString name = metrics.elidedText(singleLine(network.ssid), Qt::ElideRight, places.name.width());
-    const double left =
-        isMirrored ? places.name.right() - metrics.horizontalAdvance(name) : places.name.left();
-    painter.setFont(nameFont(font));
     painter.setPen(palette.color(QPalette::WindowText));
-    painter.drawText(QPointF(left, std::round(places.name.top() + metrics.ascent())), name);
+    drawRowText(painter, places.name, singleLine(network.ssid), nameFont(font), isMirrored);
 
     painter.setFont(connectFont(font));
     paintButton(painter, places, palette);

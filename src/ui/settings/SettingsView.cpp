@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
 
 namespace aerolith {
 
@@ -43,12 +44,19 @@ struct Setting
     int minimum = 0;
     int maximum = 0;
     int step = 1;
-    /// What is stored, cut to a whole number in the range.
+    /// What is stored, cut to a whole number.
     int value = 0;
     ValueTexts (*texts)(int value) = nullptr;
     /// The user has moved the slider.
     std::function<void(int value)> store;
 };
+
+template <typename Stored>
+int wholeNumber(Stored stored)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<Stored>(stored, Limits::min(), Limits::max()));
+}
 
 /// Title, slider and value of one setting.
 QLayout* makeBlock(const Setting& setting)
@@ -62,7 +70,8 @@ QLayout* makeBlock(const Setting& setting)
     auto* shown = new SecondaryLabel(valueSize);
     shown->setObjectName(setting.objectName + "Value"_L1);
     shown->setAlignment(Qt::AlignCenter);
-    const int needed = shown->fontMetrics().horizontalAdvance(setting.texts(setting.maximum).shown);
+    const int widest = std::max(setting.maximum, setting.value);
+    const int needed = shown->fontMetrics().horizontalAdvance(setting.texts(widest).shown);
     shown->setFixedWidth(std::max(valueWidth, needed));
 
     const auto show = [slider, shown, texts = setting.texts](int value) {
@@ -134,7 +143,7 @@ QLayout* SettingsView::makeScanInterval()
          .minimum = minimum,
          .maximum = maximum,
          .step = 1,
-         .value = static_cast<int>(std::clamp<double>(m_scanner.scanInterval(), minimum, maximum)),
+         .value = wholeNumber<double>(m_scanner.scanInterval()),
          .texts =
              [](int value) {
                  //: The scan interval beside its slider: seconds, in as little room as there is.
@@ -153,7 +162,7 @@ QLayout* SettingsView::makeHistoryPoints()
          .minimum = minimum,
          .maximum = maximum,
          .step = 5,
-         .value = static_cast<int>(std::clamp<qint64>(m_scanner.historyLimit(), minimum, maximum)),
+         .value = wholeNumber(m_scanner.historyLimit()),
          .texts =
              [](int value) {
                  return ValueTexts{QString::number(value), tr("%n points", nullptr, value)};

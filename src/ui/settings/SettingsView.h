@@ -12,8 +12,8 @@ namespace aerolith {
 
 /// The sheet with the user's settings. A slider writes its setting at every change, and nothing undoes that:
 /// "Save" makes a new interval count for the timer that is running, "Cancel" leaves the timer as it is. A
-/// stored value that no slider reaches is shown as the nearest that one does, and stays stored until its
-/// slider is moved.
+/// stored value that no slider reaches is told as it is, and stays until its slider is moved, which stands at
+/// the nearest one.
 class SettingsView : public Sheet
 {
     Q_OBJECT

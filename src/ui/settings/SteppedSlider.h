@@ -4,8 +4,8 @@
 
 namespace aerolith {
 
-/// A horizontal slider that, however it is moved, stops only at whole steps from its minimum. A value set by
-/// the program may lie between them.
+/// A horizontal slider that, moved by pointer, wheel or keys, stops only at whole steps from its minimum. A
+/// value that is set, by the program or by assistive technology, may lie between them.
 class SteppedSlider : public QSlider
 {
 public:

@@ -43,17 +43,4 @@ TEST(Theme, ContrastIsThatOfTheDefinition)
     EXPECT_NEAR(Theme::contrast(Qt::white, QColor(0x76, 0x76, 0x76)), 4.54, 0.005);
 }
 
-TEST(Theme, FollowsThePaletteBetweenLightAndDark)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(239, 239, 239));
-    EXPECT_FALSE(Theme::isDark(palette));
-    EXPECT_EQ(Theme::green(palette), QColor(52, 199, 89));
-    EXPECT_EQ(Theme::red(palette), QColor(255, 59, 48));
-    palette.setColor(QPalette::Window, QColor(42, 46, 50));
-    EXPECT_TRUE(Theme::isDark(palette));
-    EXPECT_EQ(Theme::green(palette), QColor(48, 209, 88));
-    EXPECT_EQ(Theme::red(palette), QColor(255, 69, 58));
-}
-
 } // namespace aerolith

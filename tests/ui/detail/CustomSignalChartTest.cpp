@@ -5,6 +5,7 @@
 #include "ui/detail/SampleHistory.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -128,20 +129,16 @@ TEST_F(CustomSignalChartTest, EnlargesTheDotThatThePointerRestsOn)
     point(dot);
     EXPECT_EQ(chart->hoveredPointId(), samples[1].id);
     EXPECT_TRUE(isAnimating());
-    advance(u"dotGrowth"_s, 100);
+    advance(u"dotGrowth"_s, 50);
     point(left);
-    EXPECT_FALSE(chart->hoveredPointId().has_value()) << "half-way it reaches 4.5 to the left";
-    advance(u"dotGrowth"_s, 150);
-    EXPECT_LE(radius(dot), 4) << "shrinking again";
-
-    point(dot);
+    EXPECT_EQ(chart->hoveredPointId(), samples[1].id) << "on the dot as large as it becomes";
     advance(u"dotGrowth"_s, 200);
     EXPECT_FALSE(isAnimating());
     const int enlarged = radius(dot);
-    point(left);
-    EXPECT_EQ(chart->hoveredPointId(), samples[1].id) << "on the enlarged dot";
     point(dot - QPoint(8, 0));
     EXPECT_FALSE(chart->hoveredPointId().has_value());
+    point(left);
+    EXPECT_FALSE(chart->hoveredPointId().has_value()) << "beside it, however large it still is";
     advance(u"dotGrowth"_s, 200);
     EXPECT_FALSE(isAnimating());
     EXPECT_GE(enlarged, radius(dot) + 3);
@@ -179,6 +176,24 @@ TEST_F(CustomSignalChartTest, KeepsTheHoveredSampleWhileTheHistoryGoesOn)
     chart->startOver();
     EXPECT_FALSE(chart->hoveredPointId().has_value());
     EXPECT_FALSE(isAnimating());
+}
+
+TEST_F(CustomSignalChartTest, StandsStillWhereItIsHiddenWithTheFocus)
+{
+    show(history({-61, -62}));
+    QWidget window;
+    QLineEdit other(&window);
+    chart->setParent(&window);
+    chart->show();
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    chart->setFocus();
+    QTest::keyClick(chart.get(), Qt::Key_End);
+    advance(u"dotGrowth"_s, 200);
+    chart->hide();
+    EXPECT_TRUE(other.hasFocus());
+    EXPECT_FALSE(isAnimating());
+    chart->setParent(nullptr);
 }
 
 TEST_F(CustomSignalChartTest, GoesFromSampleToSampleByKeys)

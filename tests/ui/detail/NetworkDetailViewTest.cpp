@@ -110,8 +110,10 @@ TEST_F(NetworkDetailViewTest, ShowsNamesAsTheyAre)
     EXPECT_EQ(value(u"ssid"_s).text(), u"<b>&x</b> %s\uFFFD\uFFFD[*]"_s);
     const int width = view.findChild<QScrollArea*>()->widget()->minimumSizeHint().width();
     EXPECT_EQ(view.windowTitle(), u"<b>&x</b> %s\uFFFD\uFFFD[*][*]"_s) << "what a window shows as one [*]";
-    scan(network(u"d"_s, QString(10, QChar(0xFDFD))));
+    EXPECT_EQ(value(u"ssid"_s).focusPolicy(), Qt::ClickFocus);
+    scan(network(u"d"_s, QString(60, u'W')));
     EXPECT_EQ(view.findChild<QScrollArea*>()->widget()->minimumSizeHint().width(), width);
+    EXPECT_EQ(value(u"ssid"_s).focusPolicy(), Qt::StrongFocus) << "keys reach what is cut off";
 }
 
 TEST_F(NetworkDetailViewTest, ExplainsAFactOverItsSymbolOnly)

@@ -10,7 +10,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
 
@@ -53,7 +56,7 @@ QStringList lines(const QList<InterfaceFact>& facts)
 class NetworkInfoDialogTest : public testing::Test
 {
 protected:
-    NetworkInfoDialog& open(CWInterface* interface = nullptr)
+    NetworkInfoDialog& open(const std::shared_ptr<CWInterface>& interface = nullptr)
     {
         dialog.emplace(interface, desktop.hostAddresses, desktop.workspace, log);
         dialog->show();
@@ -109,7 +112,7 @@ TEST_F(NetworkInfoDialogTest, ShowsLongAndHostileTextsWholeAndLetsThemBeCopied)
 {
     InterfaceOf hostile(R"("channels": [1,2,3,4,5,6,7,8,9,10,11,12,13,36,40,44,48,52,56,60,64,100,104,108])",
                         R"("<b>WWWWWWWWWWWWWWWWWWWWWWWWW</b>")");
-    open(hostile.interface().get());
+    open(hostile.interface());
     EXPECT_EQ(dialog->width(), 400);
     for (auto* text : dialog->findChildren<QTextEdit*>()) {
         SCOPED_TRACE(text->toPlainText().toStdString());
@@ -126,6 +129,26 @@ TEST_F(NetworkInfoDialogTest, ShowsLongAndHostileTextsWholeAndLetsThemBeCopied)
     EXPECT_EQ(QApplication::clipboard()->text(), u"<b>WWWWWWWWWWWWWWWWWWWWWWWWW</b>"_s);
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_FALSE(dialog->isVisible()) << "closes it from anywhere";
+}
+
+TEST_F(NetworkInfoDialogTest, FollowsTheInterfaceAndKeepsToTheScreen)
+{
+    desktop.hostAddresses.address.reset();
+    open();
+    QPointer<QTextEdit> kept(&value(u"Transmit Power"_s));
+    dialog->readInterface();
+    EXPECT_FALSE(kept.isNull()) << "nothing has changed";
+    desktop.hostAddresses.address = u"192.168.1.20"_s;
+    dialog->readInterface();
+    EXPECT_EQ(value(u"IP Address"_s).toPlainText(), u"192.168.1.20"_s);
+    EXPECT_EQ(dialog->findChildren<QTextEdit*>().size(), 5);
+
+    InterfaceOf manyChannels("\"channels\": [" + QByteArray("100, ").repeated(999) + "1]");
+    open(manyChannels.interface());
+    EXPECT_LT(dialog->height(), dialog->screen()->availableGeometry().height());
+    auto& channels = value(u"Supported Channels"_s);
+    channels.moveCursor(QTextCursor::End);
+    EXPECT_GT(channels.verticalScrollBar()->value(), 0) << "the rest can be reached";
 }
 
 TEST_F(NetworkInfoDialogTest, OpensTheNetworkSettingsAndStays)

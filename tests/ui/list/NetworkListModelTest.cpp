@@ -69,40 +69,23 @@ protected:
 
 TEST_F(NetworkListModelTest, CarriesWhatIsHeldToTheRowOfTheSameAccessPoint)
 {
-    for (const auto& [before, after] : std::initializer_list<std::pair<QString, QString>>{
-             {u""_s, u"abc"_s},
-             {u"abc"_s, u""_s},
-             {u"abc"_s, u"cab"_s},
-             {u"abcdef"_s, u"axbfcy"_s},
-             {u"abc"_s, u"xyz"_s},
-             {u"abcd"_s, u"ad"_s},
-             {u"ad"_s, u"abcd"_s},
-         }) {
-        SCOPED_TRACE((before + u" to "_s + after).toStdString());
-        model.show(shown(before));
+    QRandomGenerator random(7);
+    QString before;
+    for (int round = 0; round < 200; ++round) {
+        QString after = u"abcdefghijklmnopqrstuvwxyz"_s;
+        std::shuffle(after.begin(), after.end(), random);
+        after.truncate(random.bounded(27));
         QList<QPersistentModelIndex> held;
         for (int row = 0; row < model.rowCount(); ++row) {
             held.append(model.index(row));
         }
-
         model.show(shown(after));
-        EXPECT_EQ(rows(model), after);
+        ASSERT_EQ(rows(model), after);
         for (int row = 0; row < before.size(); ++row) {
-            EXPECT_EQ(held[row].row(), after.indexOf(before[row]));
+            ASSERT_EQ(held[row].row(), after.indexOf(before[row]))
+                << (before + u" to "_s + after).toStdString();
         }
-    }
-}
-
-TEST_F(NetworkListModelTest, EndsUpWithThePublishedListWhateverCameBefore)
-{
-    QRandomGenerator random(7);
-    const QString all = u"abcdefghijklmnopqrstuvwxyz"_s;
-    for (int round = 0; round < 200; ++round) {
-        QString letters = all;
-        std::shuffle(letters.begin(), letters.end(), random);
-        letters.truncate(random.bounded(all.size() + 1));
-        model.show(shown(letters));
-        ASSERT_EQ(rows(model), letters);
+        before = after;
     }
 }
 

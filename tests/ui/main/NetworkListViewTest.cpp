@@ -152,25 +152,4 @@ TEST_F(NetworkListViewTest, HighlightsTheSelectedAccessPointAgainOnceItIsListedA
     EXPECT_EQ(list.verticalScrollBar()->value(), 700);
 }
 
-TEST_F(NetworkListViewTest, GivesEveryRowTheSameHeight)
-{
-    QList<CWNetwork> hostile;
-    int index = 0;
-    for (const QString& ssid :
-         {u"plain"_s, u"one\ntwo\nthree"_s, u"<h1>Big</h1><br><br>"_s, u"\u2029\u2029"_s,
-          u"Z"_s + u"\u0336\u0353\u0489"_s.repeated(10), QString(32, u'W'), u"漢字 ﷽ 👨\u200D👩\u200D👧"_s}) {
-        hostile.append(network(u"0%1"_s.arg(++index), ssid));
-    }
-    engine.scanner->clearNetworks();
-    settle();
-    scan(hostile);
-    ASSERT_EQ(list.model()->rowCount(), hostile.size());
-    for (int row = 1; row < hostile.size(); ++row) {
-        const QRect rect = list.visualRect(list.model()->index(row, 0));
-        EXPECT_EQ(rect.top(), list.visualRect(list.model()->index(row - 1, 0)).bottom() + 1);
-        EXPECT_EQ(rect.height(), list.visualRect(list.model()->index(0, 0)).height());
-        EXPECT_EQ(rect.width(), list.viewport()->width());
-    }
-}
-
 } // namespace aerolith

@@ -1,5 +1,6 @@
 #include "ui/main/NetworkRowView.h"
 
+#include "support/HostileNames.h"
 #include "support/Printing.h"
 #include "ui/common/Theme.h"
 
@@ -119,10 +120,7 @@ TEST(NetworkRowView, OrdersANameByItsOwnDirection)
 TEST(NetworkRowView, StaysWithinItsRowWhateverTheNameIs)
 {
     const QImage harmless = painted(row(u"W"_s));
-    for (const QString& ssid :
-         {u"one\ntwo\nthree\r\n\u2028four\u0085five"_s, u"<h1>Big</h1><img src=x>"_s,
-          u"\u202Egpj.exe \u2067\u2067"_s, QString(32, u'W'), u"\u0000\u0001\u001B[31m"_s,
-          u"A"_s + QString(15, QChar(0x0301)), u"g"_s + QString(15, QChar(0x0323)), u"﷽﷽﷽"_s}) {
+    for (const QString& ssid : hostileNames()) {
         SCOPED_TRACE(ssid.toStdString());
         const QImage image = painted(row(ssid));
         EXPECT_TRUE(isWhite(image, QRect(0, 0, 320, rowRect.top()))) << "above";

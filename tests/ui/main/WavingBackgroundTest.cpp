@@ -134,6 +134,12 @@ TEST_F(WavingBackgroundTest, MovesOnlyWhileItCanBeSeen)
     EXPECT_FALSE(backdrop.isAnimating());
     window.show();
     EXPECT_TRUE(QTest::qWaitFor([this] { return backdrop.isAnimating(); }));
+    backdrop.hide();
+    window.hide();
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_FALSE(backdrop.isAnimating()) << "hidden in a window that comes back";
+    backdrop.show();
 
     window.showMinimized();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !backdrop.isAnimating(); }));

@@ -130,7 +130,7 @@ TEST_F(SettingsViewTest, RestartsTheTimerOnSaveAlone)
     EXPECT_EQ(engine.main.runningTimers(), 1U);
 }
 
-TEST_F(SettingsViewTest, ShowsWhatNoSliderReachesAsTheNearestAndLeavesItStored)
+TEST_F(SettingsViewTest, TellsWhatNoSliderReachesAndLeavesItStored)
 {
     struct
     {
@@ -139,11 +139,12 @@ TEST_F(SettingsViewTest, ShowsWhatNoSliderReachesAsTheNearestAndLeavesItStored)
         QString shownInterval;
         QString shownLimit;
     } const cases[] = {
-        {100, std::numeric_limits<qint64>::max(), u"30s"_s, u"50"_s},
-        {1, std::numeric_limits<qint64>::min(), u"5s"_s, u"10"_s},
-        {-3, 9, u"10s"_s, u"10"_s},
+        {100, 51, u"100s"_s, u"51"_s},
+        {1, -1, u"1s"_s, u"-1"_s},
+        {-3, 9, u"10s"_s, u"9"_s},
         {12.9, 23, u"12s"_s, u"23"_s},
-        {std::numeric_limits<double>::infinity(), 51, u"10s"_s, u"50"_s},
+        {1e300, std::numeric_limits<qint64>::max(), u"2147483647s"_s, u"2147483647"_s},
+        {std::numeric_limits<double>::infinity(), 20, u"10s"_s, u"20"_s},
     };
 
     for (const auto& [storedInterval, storedLimit, shownInterval, shownLimit] : cases) {
