@@ -176,7 +176,10 @@ class Focus:
 
 def click(element):
     """The pointer's first button in the middle of an element."""
-    x, y = element.centre()
+    click_at(*element.centre())
+
+
+def click_at(x, y):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
 

@@ -8,7 +8,7 @@ from gi.repository import Gio, GLib
 
 class BusService:
     """On a thread of its own, as the script waits for the program meanwhile. `handle(bus, sender, method, arguments)`
-    gives the answer as a variant; the properties never change."""
+    gives the answer as a variant."""
 
     def __init__(self, name, path, description, handle, properties):
         self.name, self.path, self.handle, self.properties = name, path, handle, properties

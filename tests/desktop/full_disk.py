@@ -49,31 +49,13 @@ class Disk:
         return self.settings.read_bytes(), self.list.read_bytes()
 
 
-def choose_interval(window, seconds):
-    window.frame.find("push button", "Settings").press()
-    dialog = window.application.find("dialog")
-    dialog.find("slider", "Scan Interval").value = seconds
-    dialog.find("label", f"{seconds}s")
-    dialog.find("push button", "Save").press()
-    window.application.gone("dialog")
-
-
-def export(window, path):
-    window.frame.find("push button", "Export network list").press()
-    window.application.find("dialog").find("text", "File name:").text = str(path)
-    window.application.find("push button", "Save").press()
-    if path.exists():
-        window.application.find("push button", "Yes").press()
-    window.application.gone("dialog")
-
-
 def refuse(what, program, window, disk, seconds):
     """Neither is written, both files are as they were, and scanning goes on."""
     before = disk.files()
     told = len(program.log())
-    choose_interval(window, seconds)
+    window.set(scanInterval=seconds)
     check(f"{what}, the settings", disk.settings.read_bytes(), before[0])
-    export(window, disk.list)
+    window.save("Export network list", disk.list)
     check(f"{what}, the files", disk.files(), before)
     check(f"{what}, the refusal is told", program.log()[told:].count(f"Cannot write {disk.list}: "), 1)
     names = {p.name for p in disk.folder.rglob("*") if p.is_file()} - {"QtProject.conf"}  # the file dialog's own
@@ -88,13 +70,13 @@ def main(path, ssid, results, *arguments):
     with Program(path, *arguments, log=f"{results}/log") as program:
         window = MainWindow(program)
         first_scan(window)
-        choose_interval(window, 5)
-        export(window, disk.list)
+        window.set(scanInterval=5)
+        window.save("Export network list", disk.list)
         wait_for("both files", lambda: b"scanInterval=5\n" in disk.files()[0] and ssid.encode() in disk.files()[1])
         for room in (1, 2):
             disk.fill(room)
             before = disk.settings.read_bytes()
-            choose_interval(window, 6)
+            window.set(scanInterval=6)
             check(f"with room for {room}, the settings", disk.settings.read_bytes(), before)
         disk.fill()
         refuse("full", program, window, disk, 6)
@@ -105,8 +87,8 @@ def main(path, ssid, results, *arguments):
         mount(disk.folder, REMOUNT)
         disk.ballast.unlink()
         disk.list.unlink()
-        choose_interval(window, 8)
-        export(window, disk.list)
+        window.set(scanInterval=8)
+        window.save("Export network list", disk.list)
         wait_for("both files anew", lambda: b"scanInterval=8\n" in disk.files()[0] and ssid.encode() in disk.files()[1])
     print("ok: ended")
 

@@ -19,6 +19,7 @@ PANE_ROWS = {
     "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
     "Current RSSI": "RSSI (dBm)", "Country": "Country",
 }
+SETTINGS = {"scanInterval": ("Scan Interval", "s"), "historyLimit": ("History Points", "")}
 
 
 class MainWindow:
@@ -71,14 +72,32 @@ class MainWindow:
         key("Return")
 
     def save(self, button, path):
+        replaces = os.path.exists(path)
         self.frame.find("push button", button).press()
         dialog = self.application.find("dialog")
-        dialog.find("text", "File name:").text = path
+        dialog.find("text", "File name:").text = str(path)
         dialog.find("push button", "Save").press()
+        if replaces:
+            self.application.find("push button", "Yes").press()
         self.application.gone("dialog")
+
+    def saved(self, button, path):
+        """The rows of the file."""
+        self.save(button, path)
         wait_for(path, lambda: os.path.exists(path))
         with open(path, encoding="utf-8", newline="") as file:
             return list(csv.reader(file))
+
+    def set(self, **settings):
+        """By the names of the settings file."""
+        self.frame.find("push button", "Settings").press()
+        dialog = self.application.find("dialog")
+        for name, value in settings.items():
+            label, unit = SETTINGS[name]
+            dialog.find("slider", label).value = value
+            dialog.find("label", f"{value}{unit}")
+        dialog.find("push button", "Save").press()
+        self.application.gone("dialog")
 
 
 def first_scan(window):
@@ -138,14 +157,14 @@ def sort(window):
 
 
 def export(window, ssid, results):
-    rows = window.save("Export network list", f"{results}/list.csv")
+    rows = window.saved("Export network list", f"{results}/list.csv")
     check("the exported rows", [row[0] for row in rows[1:]], window.rows())
     details = window.details()
     record = dict(zip(rows[0], next(row for row in rows[1:] if row[1] == details["BSSID"])))
     for label, column in PANE_ROWS.items():
         if label in details:
             check(f"{label} in the file", record[column], details[label].removesuffix(" dBm"))
-    rows = window.save("Export network data", f"{results}/details.csv")
+    rows = window.saved("Export network data", f"{results}/details.csv")
     check("the exported access point", ssid in [cell for row in rows for cell in row], True)
 
 
@@ -174,14 +193,7 @@ def interface(window):
 
 
 def settings(window):
-    window.frame.find("push button", "Settings").press()
-    dialog = window.application.find("dialog")
-    dialog.find("slider", "Scan Interval").value = 15
-    dialog.find("slider", "History Points").value = 35
-    dialog.find("label", "15s")
-    dialog.find("label", "35")
-    dialog.find("push button", "Save").press()
-    window.application.gone("dialog")
+    window.set(scanInterval=15, historyLimit=35)
     with open(os.environ["XDG_CONFIG_HOME"] + "/aerolith/aerolith.conf", encoding="utf-8") as stored:
         lines = stored.read().splitlines()
     for line in ("scanInterval=15", "historyLimit=35"):

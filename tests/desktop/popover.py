@@ -6,7 +6,7 @@ import subprocess
 
 from gi.repository import Atspi
 
-from accessible import PATIENCE, Failure, wait_for
+from accessible import PATIENCE, Failure, click_at, wait_for
 
 ICON = (int(os.environ.get("DESKTOP_SCREEN", "1280x900").split("x")[0]) - 12, 12)
 NAME = "Aerolith"
@@ -23,10 +23,6 @@ def tray():
             yield
         finally:
             process.terminate()
-
-
-def click_at(x, y):
-    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
 
 class Popover:

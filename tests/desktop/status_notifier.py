@@ -1,4 +1,5 @@
-"""A desktop's bar that shows icons over the session bus, as Wayland's do."""
+"""A desktop's bar that shows icons over the session bus, as Wayland's do. It comes in two parts, of which only the first
+is there from the beginning: the watcher, and the host, which shows the icons."""
 
 from accessible import wait_for
 from bus_service import BusService
@@ -12,6 +13,7 @@ INTERFACE = f"""<node>
     <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
     <property name="RegisteredStatusNotifierItems" type="as" access="read"/>
     <property name="ProtocolVersion" type="i" access="read"/>
+    <signal name="StatusNotifierHostRegistered"/>
   </interface>
 </node>"""
 
@@ -19,12 +21,16 @@ INTERFACE = f"""<node>
 class StatusNotifier:
     def __init__(self):
         self.items = []
-        properties = {
-            "IsStatusNotifierHostRegistered": GLib.Variant("b", True),
+        self.properties = {
+            "IsStatusNotifierHostRegistered": GLib.Variant("b", False),
             "RegisteredStatusNotifierItems": GLib.Variant("as", []),
             "ProtocolVersion": GLib.Variant("i", 0),
         }
-        self.service = BusService(NAME, "/StatusNotifierWatcher", INTERFACE, self.register, properties)
+        self.service = BusService(NAME, "/StatusNotifierWatcher", INTERFACE, self.register, self.properties)
+
+    def begin_host(self):
+        self.properties["IsStatusNotifierHostRegistered"] = GLib.Variant("b", True)
+        self.service.bus.emit_signal(None, "/StatusNotifierWatcher", NAME, "StatusNotifierHostRegistered", None)
 
     def register(self, _bus, sender, _method, arguments):
         name = arguments[0]

@@ -14,7 +14,9 @@ from status_notifier import StatusNotifier
 
 
 def popover(window, notifier):
-    """The icon's presses come over the bus; the popover is a window of its own here."""
+    """The bar begins long after the program. The icon's presses come over the bus; the popover is a window of its own
+    here."""
+    notifier.begin_host()
     check("the icon's words", notifier.item("ToolTip")[2], "WiFi")
     menu = Popover(window.application)
     notifier.press()

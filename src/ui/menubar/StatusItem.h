@@ -25,7 +25,8 @@ public:
     [[nodiscard]] virtual QRect frame() const = 0;
 
 Q_SIGNALS:
-    /// A button is there, for the first time or again; it shows no image yet.
+    /// A button is there that was not when this object was made; it shows no image yet. Said once: one that
+    /// goes and comes again keeps its image.
     void buttonAppeared();
 
     void pressed();

@@ -96,7 +96,9 @@ protected:
             hide();
             break;
         case QEvent::ActivationChange:
-            if (!isActiveWindow()) {
+            if (isVisible() && !isActiveWindow()) {
+                // Where it is no popup, this is all that it learns of a press outside.
+                m_dismissed.start();
                 hide();
             }
             break;
@@ -134,7 +136,7 @@ protected:
 private:
     static constexpr double frameOpacity = 0.6;
 
-    /// Runs since a press outside has closed the popover.
+    /// Runs since a press outside, or the focus that it took away, has closed the popover.
     QElapsedTimer m_dismissed;
 };
 

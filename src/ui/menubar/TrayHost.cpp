@@ -2,9 +2,13 @@
 
 #include "ui/common/X11.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QGuiApplication>
+
+#include <utility>
 
 namespace aerolith {
 
@@ -12,11 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString& notifierWatcher()
-{
-    static const QString name = u"org.kde.StatusNotifierWatcher"_s;
-    return name;
-}
+/// The name of the service and of its interface.
+constexpr auto notifierWatcher = "org.kde.StatusNotifierWatcher"_L1;
+constexpr auto notifierWatcherPath = "/StatusNotifierWatcher"_L1;
 
 /// The tray of the first screen; hardly an X11 display has another.
 bool isX11TrayThere()
@@ -31,18 +33,17 @@ bool isX11TrayThere()
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
-bool isNotifierThere()
-{
-    const QDBusConnectionInterface* bus = QDBusConnection::sessionBus().interface();
-    return bus != nullptr && bus->isServiceRegistered(notifierWatcher());
-}
-
 } // namespace
 
-TrayHost::TrayHost()
-    : m_watcher(notifierWatcher(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration)
+TrayHost::TrayHost(QDBusConnection bus)
+    : m_bus(std::move(bus)), m_watcher(notifierWatcher, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
 {
-    connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::appeared);
+    connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &TrayHost::askWatcher);
+    // Of any sender: Qt would block for the name of one. What they say is asked for in any case.
+    for (const auto& signal : {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s}) {
+        m_bus.connect(QString(), notifierWatcherPath, notifierWatcher, signal, this, SLOT(askWatcher()));
+    }
+    askWatcher();
     if (xcb_connection_t* connection = x11::connection()) {
         m_managerAtom = x11::atom(connection, "MANAGER");
         qGuiApp->installNativeEventFilter(this);
@@ -56,9 +57,27 @@ TrayHost::~TrayHost()
     }
 }
 
-bool TrayHost::isThere()
+bool TrayHost::isThere() const
 {
-    return isNotifierThere() || isX11TrayThere();
+    return m_hasNotifierHost || isX11TrayThere();
+}
+
+/// The watcher alone shows no icons: it is mostly there before the bar, its host, and may outlive it.
+void TrayHost::askWatcher()
+{
+    auto question = QDBusMessage::createMethodCall(notifierWatcher, notifierWatcherPath,
+                                                   u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question.setAutoStartService(false);
+    question << QString(notifierWatcher) << u"IsStatusNotifierHostRegistered"_s;
+    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        m_hasNotifierHost = !reply.isError() && reply.value().variant().toBool();
+        answer->deleteLater();
+        if (m_hasNotifierHost) {
+            Q_EMIT appeared();
+        }
+    });
 }
 
 /// A tray that begins says so to every client, once it is the owner of its selection.

@@ -7,27 +7,22 @@ namespace aerolith {
 
 TrayStatusItem::TrayStatusItem()
 {
-    if (TrayHost::isThere()) {
+    connect(&m_host, &TrayHost::appeared, this, &TrayStatusItem::lookForTray, Qt::QueuedConnection);
+    if (m_host.isThere()) {
         makeIcon();
-        return;
     }
-    m_host.emplace();
-    connect(&*m_host, &TrayHost::appeared, this, &TrayStatusItem::lookForTray, Qt::QueuedConnection);
-    // It may have come while nobody was looking.
-    lookForTray();
 }
 
 bool TrayStatusItem::hasButton() const
 {
-    return m_icon && TrayHost::isThere();
+    return m_icon && m_host.isThere();
 }
 
 void TrayStatusItem::lookForTray()
 {
-    if (m_icon || !TrayHost::isThere()) {
+    if (m_icon || !m_host.isThere()) {
         return;
     }
-    m_host.reset();
     makeIcon();
     Q_EMIT buttonAppeared();
 }

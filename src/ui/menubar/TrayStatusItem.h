@@ -29,9 +29,9 @@ private:
     void lookForTray();
     void makeIcon();
 
-    /// Only until there is a tray. Qt itself follows one that begins anew.
-    std::optional<TrayHost> m_host;
-    /// Made when there is a tray, not before: Qt settles on a kind of tray with its first icon, for good.
+    TrayHost m_host;
+    /// Made when there is a tray, not before: Qt settles on a kind of tray with its first icon, for good. It
+    /// follows one that begins anew by itself.
     std::optional<QSystemTrayIcon> m_icon;
 };
 

@@ -40,6 +40,12 @@ protected:
     /// Begins the program's life in the bar.
     void start()
     {
+        make();
+        engine.main.drain();
+    }
+
+    void make()
+    {
         controller.emplace(*engine.scanner, MenuSurroundings{.wifiClient = engine.wifi,
                                                              .mainQueue = engine.main,
                                                              .workspace = desktop.workspace,
@@ -53,7 +59,6 @@ protected:
                                                                      item = made.get();
                                                                      return made;
                                                                  }});
-        engine.main.drain();
     }
 
     void pressIcon()

@@ -1,7 +1,9 @@
 #include "ui/menubar/WiFiConnectionManager.h"
 
 #include "support/FakeWiFi.h"
+#include "support/HostileNames.h"
 #include "support/Printing.h"
+#include "ui/common/PlainText.h"
 #include "ui/menubar/DialogDriver.h"
 #include "ui/menubar/WaitState.h"
 
@@ -160,12 +162,7 @@ TEST_F(WiFiConnectionManagerTest, SaysOnceWhyAJoinHasFailed)
 
 TEST_F(WiFiConnectionManagerTest, ShowsEveryNameAsPlainText)
 {
-    const std::pair<QString, QString> names[] = {
-        {u"<h1>Big</h1> & <img src=x>"_s, u"<h1>Big</h1> & <img src=x>"_s},
-        {u"line\nbreak\u202E"_s, u"line\uFFFDbreak\uFFFD"_s},
-        {QString(32, u'W'), QString(32, u'W')},
-    };
-    for (const auto& [ssid, shown] : names) {
+    for (const QString& ssid : hostileNames()) {
         user.shown.clear();
         user.answer([](QDialog& dialog) {
             auto* message = dialog.findChild<QTextEdit*>(u"message"_s);
@@ -173,8 +170,8 @@ TEST_F(WiFiConnectionManagerTest, ShowsEveryNameAsPlainText)
             dialog.reject();
         });
         manager.connectTo(withSecurity({CWSecurity::wep}, ssid));
-        EXPECT_EQ(user.shown,
-                  QStringList(u"Connect to \u2068%1\u2069|Enter the network password:"_s.arg(shown)));
+        EXPECT_EQ(user.shown, QStringList(u"Connect to %1|Enter the network password:"_s.arg(
+                                  isolated(singleLine(ssid)))));
     }
 
     CWNetwork nameless = withSecurity({CWSecurity::wep});
