@@ -12,6 +12,12 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                          const OneInstance& instance)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
+    , m_updaterController(UpdateOptions::standard(surroundings.log),
+                          {.userDefaults = surroundings.userDefaults,
+                           .mainQueue = surroundings.mainQueue,
+                           .clock = surroundings.clock,
+                           .log = surroundings.log,
+                           .workspace = desktop.workspace})
     , m_statusMenu(m_scanner, {.wifiClient = surroundings.wifiClient,
                                .mainQueue = surroundings.mainQueue,
                                .workspace = desktop.workspace,
@@ -20,12 +26,6 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                                .makeStatusItem = [] { return std::make_unique<TrayStatusItem>(); }})
     , m_dateTexts(surroundings.locale)
     , m_exporter(surroundings.log)
-    , m_updaterController(UpdateOptions::standard(surroundings.log),
-                          {.userDefaults = surroundings.userDefaults,
-                           .mainQueue = surroundings.mainQueue,
-                           .clock = surroundings.clock,
-                           .log = surroundings.log,
-                           .workspace = desktop.workspace})
     , m_mainWindow(m_scanner,
                    {.userDefaults = surroundings.userDefaults,
                     .wifiClient = surroundings.wifiClient,
@@ -35,7 +35,7 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
     , m_hideOnClose(m_mainWindow,
                     [this, &instance] { return instance.isFirst() || m_statusMenu.hasStatusItem(); })
 {
-    new WindowIcon(m_mainWindow);
+    setWindowIconOnceShown(m_mainWindow);
     new ReducedMotion(m_mainWindow);
     addMainMenu(
         m_mainWindow,

@@ -26,10 +26,10 @@ public:
 private:
     SelectionStore m_selectionStore;
     WiFiScanner m_scanner;
+    UpdaterController m_updaterController;
     StatusMenuController m_statusMenu;
     DateTexts m_dateTexts;
     FileExporter m_exporter;
-    UpdaterController m_updaterController;
     MainWindow m_mainWindow;
     HideOnClose m_hideOnClose;
 };

@@ -1,15 +1,19 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
+class QDialog;
 class QWidget;
 
 namespace aerolith {
 
-/// Closing the main window hides it, with all that belongs to it, while `comesBack` says that the user can
-/// bring it back. The program ends by QApplication::exit(), or with the user's session.
+/// Closing the main window hides it, with the dialogs that belong to it, while `comesBack` says that the user
+/// can bring it back; they come back with it. The program ends by QApplication::exit(), or with the user's
+/// session.
 class HideOnClose : public QObject
 {
 public:
@@ -19,7 +23,12 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void hide();
+    void showDialogs();
+
     QWidget& m_window;
+    /// That were hidden with it.
+    QList<QPointer<QDialog>> m_dialogs;
     std::function<bool()> m_comesBack;
 };
 

@@ -1,5 +1,6 @@
 #include "app/ReducedMotion.h"
 
+#include "app/FirstPainting.h"
 #include "app/ProgramStyle.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QTimer>
 #include <QWidget>
 
 namespace aerolith {
@@ -48,16 +48,7 @@ std::optional<bool> reducesMotion(const QString& group, const QString& key, cons
 
 ReducedMotion::ReducedMotion(QWidget& window) : QObject(&window)
 {
-    window.installEventFilter(this);
-}
-
-bool ReducedMotion::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Paint) {
-        watched->removeEventFilter(this);
-        QTimer::singleShot(0, this, &ReducedMotion::ask);
-    }
-    return false;
+    afterFirstPainting(window, *this, [this] { ask(); });
 }
 
 void ReducedMotion::ask()
@@ -76,7 +67,8 @@ void ReducedMotion::ask()
 /// A desktop without a portal is content with how things are.
 void ReducedMotion::handleAnswer(const QDBusPendingCallWatcher& answer)
 {
-    if (answer.isError()) {
+    // Qt would read any other type with no look at its ends.
+    if (answer.isError() || answer.reply().signature() != "a{sa{sv}}"_L1) {
         return;
     }
     const auto settings = qdbus_cast<Settings>(answer.reply().arguments().value(0));

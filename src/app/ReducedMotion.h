@@ -21,8 +21,6 @@ public:
     /// Asks after the first painting of the window, which owns this object: that does not wait for an answer.
     explicit ReducedMotion(QWidget& window);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private Q_SLOTS:
     void handleChange(const QDBusMessage& signal);
 

@@ -1,30 +1,21 @@
 #include "app/WindowIcon.h"
 
+#include "app/FirstPainting.h"
+
 #include <QApplication>
-#include <QEvent>
 #include <QIcon>
-#include <QTimer>
 #include <QWidget>
 
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-WindowIcon::WindowIcon(QWidget& window) : QObject(&window)
+void setWindowIconOnceShown(QWidget& window)
 {
-    window.installEventFilter(this);
-}
-
-bool WindowIcon::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Paint) {
-        watched->removeEventFilter(this);
-        QTimer::singleShot(0, this, [] {
-            QApplication::setWindowIcon(QIcon::fromTheme(u"org.aerolith.Aerolith"_s,
-                                                         QIcon(u":/aerolith/org.aerolith.Aerolith.svg"_s)));
-        });
-    }
-    return false;
+    afterFirstPainting(window, window, [] {
+        QApplication::setWindowIcon(
+            QIcon::fromTheme(u"org.aerolith.Aerolith"_s, QIcon(u":/aerolith/org.aerolith.Aerolith.svg"_s)));
+    });
 }
 
 } // namespace aerolith

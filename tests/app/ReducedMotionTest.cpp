@@ -25,7 +25,9 @@ class FakePortal : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
-    explicit FakePortal(const QString& address) : m_bus(QDBusConnection::connectToBus(address, u"portal"_s))
+    /// `answer` is what ReadAll comes to.
+    FakePortal(const QString& address, QVariant answer)
+        : m_bus(QDBusConnection::connectToBus(address, u"portal"_s)), m_answer(std::move(answer))
     {
         qDBusRegisterMetaType<Settings>();
         m_bus.registerObject(path, this, QDBusConnection::ExportScriptableContents);
@@ -44,16 +46,17 @@ public:
 
 public Q_SLOTS:
 
-    Q_SCRIPTABLE QMap<QString, QVariantMap> ReadAll(const QStringList& groups)
+    Q_SCRIPTABLE void ReadAll(const QStringList& groups, const QDBusMessage& call)
     {
         EXPECT_EQ(groups.size(), 2);
-        return {{u"org.gnome.desktop.interface"_s,
-                 {{u"enable-animations"_s, false}, {u"font-name"_s, u"Sans"_s}}}};
+        call.setDelayedReply(true);
+        m_bus.send(call.createReply(m_answer));
     }
 
 private:
     const QString path = u"/org/freedesktop/portal/desktop"_s;
     QDBusConnection m_bus;
+    QVariant m_answer;
 };
 
 namespace {
@@ -76,16 +79,34 @@ private:
     bool m_moves = true;
 };
 
+class ReducedMotionTest : public testing::Test
+{
+protected:
+    ReducedMotionTest()
+    {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus().address().toUtf8());
+        QApplication::setStyle(new ProgramStyle);
+        new ReducedMotion(window);
+    }
+
+    /// One for all tests: a process finds its session's bus once.
+    static const PrivateBus& bus()
+    {
+        static const PrivateBus theBus;
+        return theBus;
+    }
+
+    Moving window;
+};
+
 } // namespace
 
-TEST(ReducedMotion, FollowsTheDesktopWhileItRuns)
+TEST_F(ReducedMotionTest, FollowsTheDesktopWhileItRuns)
 {
-    const PrivateBus bus;
-    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
-    FakePortal portal(bus.address());
-    QApplication::setStyle(new ProgramStyle);
-    Moving window;
-    new ReducedMotion(window);
+    FakePortal portal(
+        bus().address(),
+        QVariant::fromValue(Settings{{u"org.gnome.desktop.interface"_s,
+                                      {{u"enable-animations"_s, false}, {u"font-name"_s, u"Sans"_s}}}}));
     window.show();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); })) << "asked after the first painting";
 
@@ -96,6 +117,16 @@ TEST(ReducedMotion, FollowsTheDesktopWhileItRuns)
     portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
     QTest::qWait(50);
     EXPECT_FALSE(window.moves()) << "either of them is enough";
+}
+
+TEST_F(ReducedMotionTest, OutlivesAnAnswerOfAnotherType)
+{
+    FakePortal portal(bus().address(), QVariantMap{{u"enable-animations"_s, false}});
+    window.show();
+    QTest::qWait(50);
+    EXPECT_TRUE(window.moves());
+    portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
 }
 
 } // namespace aerolith

@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QDeadlineTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace aerolith {
@@ -30,6 +31,11 @@ const QString& objectPath()
     return path;
 }
 
+Error unknown(const QString& reason)
+{
+    return {u"Cannot tell whether Aerolith is running already: %1"_s.arg(reason)};
+}
+
 } // namespace
 
 OneInstance::OneInstance(QDBusConnection bus) : m_bus(std::move(bus))
@@ -47,25 +53,29 @@ OneInstance::~OneInstance()
 Result<OneInstance::Role> OneInstance::claim(const StartupToken& token)
 {
     if (!m_bus.isConnected()) {
-        return Error{
-            u"Cannot tell whether Aerolith is running already: %1"_s.arg(m_bus.lastError().message())};
+        return unknown(m_bus.lastError().message());
     }
-    Failure failure;
+    auto taken = takeName();
+    // The other one's, not the bus's.
     const QDeadlineTimer patience(patienceMilliseconds);
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        if (takeName()) {
+    for (int attempt = 1;; ++attempt) {
+        if (!taken.ok()) {
+            return unknown(taken.error().description);
+        }
+        if (taken.value()) {
             return Role::first;
         }
-        if (patience.hasExpired()) {
-            break;
-        }
-        failure = activateOther(token, static_cast<int>(patience.remainingTime()));
+        const auto left = std::max(patience.remainingTime(), qint64{1});
+        const Failure failure = activateOther(token, static_cast<int>(left));
         if (!failure) {
             return Role::second;
         }
+        if (attempt == mostAttempts || patience.hasExpired()) {
+            return Error{u"Aerolith is running already, but does not answer: %1"_s.arg(failure->description)};
+        }
         // It may have ended meanwhile.
+        taken = takeName();
     }
-    return Error{u"Aerolith is running already, but does not answer: %1"_s.arg(failure->description)};
 }
 
 void OneInstance::release()
@@ -76,7 +86,7 @@ void OneInstance::release()
     }
 }
 
-bool OneInstance::takeName()
+Result<bool> OneInstance::takeName()
 {
     // The object comes first: whoever finds the name calls at once.
     m_bus.registerObject(objectPath(), this);
@@ -85,7 +95,7 @@ bool OneInstance::takeName()
     if (!m_isFirst) {
         m_bus.unregisterObject(objectPath());
     }
-    return m_isFirst;
+    return reply.isValid() ? Result<bool>(m_isFirst) : Result<bool>(Error{reply.error().message()});
 }
 
 Failure OneInstance::activateOther(const StartupToken& token, int milliseconds) const

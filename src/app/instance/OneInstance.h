@@ -27,9 +27,9 @@ public:
     ~OneInstance() override;
 
     /// Takes the name, or hands `token` to who has it. Of several that start at the same moment one is first.
-    /// The error says why it is neither: there is no session bus, or who has the name does not answer; this
-    /// process then does without the name. Blocks until the bus and the other one have answered; the latter
-    /// is given five seconds. To be called once.
+    /// The error says why it is neither: there is no session bus, it gives nobody the name, or who has the
+    /// name does not answer; this process then does without the name. Blocks until the bus and the other one
+    /// have answered; the latter is given five seconds. To be called once.
     [[nodiscard]] Result<Role> claim(const StartupToken& token);
 
     /// Whether starting the program again shows this process's window.
@@ -43,7 +43,8 @@ Q_SIGNALS:
     void startedAgain(const StartupToken& token);
 
 private:
-    [[nodiscard]] bool takeName();
+    /// Whether nobody else has it.
+    [[nodiscard]] Result<bool> takeName();
     [[nodiscard]] Failure activateOther(const StartupToken& token, int milliseconds) const;
 
     QDBusConnection m_bus;
