@@ -58,7 +58,7 @@ AppcastUpdater::~AppcastUpdater() = default;
 
 void AppcastUpdater::start()
 {
-    if (m_options.source) {
+    if (canCheckForUpdates()) {
         m_automaticChecks.start();
     }
 }

@@ -98,6 +98,7 @@ void HttpsTransfer::request(const QUrl& url)
 
 void HttpsTransfer::handleStatus()
 {
+    m_silence.start();
     if (isRedirect(*m_reply)) {
         redirect();
     } else if (const int status = statusOf(*m_reply); status != statusOk) {

@@ -66,6 +66,10 @@ TEST_F(AutomaticCheckTest, AreOffUntilTheUserWantsThem)
     EXPECT_TRUE(hasChecked(1));
 
     defaults.setInteger(1, SettingKeys::automaticUpdateChecks);
+    runningVersion = u"unknown"_s;
+    makeUpdater();
+    updater->start();
+    EXPECT_EQ(main.runningTimers(), 0U) << "there is nothing to compare with";
     feed.reset();
     makeUpdater();
     updater->start();

@@ -68,6 +68,16 @@ void trickle(QTcpSocket& socket)
     timer->start(std::chrono::milliseconds(20));
 }
 
+void sendLate(QTcpSocket& socket, const QByteArray& bytes)
+{
+    const auto head = bytes.indexOf("\r\n\r\n") + 4;
+    QTimer::singleShot(1'000, &socket, [&socket, bytes, head] { socket.write(bytes.left(head)); });
+    QTimer::singleShot(2'000, &socket, [&socket, bytes, head] {
+        socket.write(bytes.mid(head));
+        socket.disconnectFromHost();
+    });
+}
+
 } // namespace
 
 HttpsServer::HttpsServer()
@@ -117,6 +127,10 @@ void HttpsServer::handle(QTcpSocket& socket)
     const QByteArray path = received.split(' ').value(1);
     const auto [bytes, behind] =
         m_answers.value(path, {"HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n", Behind::close});
+    if (behind == Behind::late) {
+        sendLate(socket, bytes);
+        return;
+    }
     socket.write(bytes);
     if (behind == Behind::close) {
         socket.disconnectFromHost();

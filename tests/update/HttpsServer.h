@@ -20,7 +20,9 @@ public:
         /// The connection stays open, and nothing more comes.
         silence,
         /// A byte comes now and then, and never the last.
-        trickle
+        trickle,
+        /// It closes in the end, but the head comes after a second, and the body after another.
+        late
     };
 
     HttpsServer();

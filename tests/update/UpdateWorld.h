@@ -17,7 +17,8 @@
 
 namespace aerolith {
 
-/// An updater of version 1.0, and the world around it: a server, a key, a folder for downloads, a clock.
+/// An updater of a program of version 1.0, and the world around it: a server, a key, a folder for downloads,
+/// a clock.
 class UpdateWorld
 {
 public:
@@ -26,7 +27,7 @@ public:
     [[nodiscard]] UpdateOptions options() const
     {
         return {.source = feed ? std::optional(UpdateSource{*feed, keys.open}) : std::nullopt,
-                .runningVersion = QStringLiteral("1.0"),
+                .runningVersion = runningVersion,
                 .folder = folder.filePath(QStringLiteral("Downloads")),
                 .https = https};
     }
@@ -80,6 +81,7 @@ public:
     HttpsServer server;
     /// Absent: the program was built without one.
     std::optional<QUrl> feed = server.url(feedPath);
+    QString runningVersion = QStringLiteral("1.0");
     HttpsSettings https{.tls = HttpsServer::trusting()};
     Keys keys;
     QTemporaryDir folder;
