@@ -3,7 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <ctime>
+#include <initializer_list>
 #include <limits>
 #include <map>
 #include <string>
@@ -57,7 +59,12 @@ public:
     {
         const double start = cpuSeconds();
         work();
-        const double elapsed = cpuSeconds() - start;
+        count(cpuSeconds() - start);
+    }
+
+    /// One run, in seconds that its own process has told.
+    void count(double elapsed)
+    {
         m_state.SetIterationTime(elapsed);
         m_total += elapsed;
         m_fastest = std::min(m_fastest, elapsed);
@@ -69,5 +76,16 @@ private:
     double m_total = 0;
     double m_fastest = std::numeric_limits<double>::infinity();
 };
+
+/// What each of these takes of a frame of a 60 Hz screen.
+inline void printFrames(const char* what, std::initializer_list<const char*> names, long size)
+{
+    constexpr double frameMilliseconds = 1000.0 / 60;
+    for (const char* name : names) {
+        const double milliseconds = measured()[{name, size}].mean * 1000;
+        std::printf("%s, %s: %.1f ms, %.0f %% of a frame\n", what, name, milliseconds,
+                    milliseconds / frameMilliseconds * 100);
+    }
+}
 
 } // namespace aerolith

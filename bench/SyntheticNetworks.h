@@ -59,4 +59,15 @@ inline AccessPoints knownAfter(const QList<CWNetwork>& results, int cycles, Iden
     return known;
 }
 
+/// The records of `count` access points, as they are after one scan.
+inline WiFiNetworkList syntheticList(int count)
+{
+    IdentifierSource identifiers;
+    WiFiNetworkList list;
+    for (const auto& [bssid, record] : knownAfter(syntheticResults(count), 1, identifiers).allNetworks) {
+        list.append(record);
+    }
+    return list;
+}
+
 } // namespace aerolith

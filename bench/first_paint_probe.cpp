@@ -1,5 +1,5 @@
-// Loaded into a Qt program as a generic plugin: reports when its first window has been painted. Any program can be
-// asked in the same way without knowing of it.
+// Loaded into a Qt program as a generic plugin: reports when its first window has been painted. Any program
+// can be asked in the same way without knowing of it.
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -44,7 +44,10 @@ class FirstPaintPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QGenericPluginFactoryInterface" FILE "first_paint_probe.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*parameters*/) override { return new FirstPaint; }
+    QObject* create(const QString& /*name*/, const QString& /*parameters*/) override
+    {
+        return new FirstPaint;
+    }
 };
 
 } // namespace

@@ -12,19 +12,9 @@ namespace {
 
 constexpr int count = 10'000;
 
-WiFiNetworkList syntheticList()
-{
-    IdentifierSource identifiers;
-    WiFiNetworkList list;
-    for (const auto& [bssid, record] : knownAfter(syntheticResults(count), 1, identifiers).allNetworks) {
-        list.append(record);
-    }
-    return list;
-}
-
 void listCsv(benchmark::State& state)
 {
-    const WiFiNetworkList list = syntheticList();
+    const WiFiNetworkList list = syntheticList(count);
     CpuTimer timer(state, "csv", count);
     for (auto _ : state) {
         timer.time([&] { benchmark::DoNotOptimize(networkListCSV(list)); });
@@ -33,7 +23,7 @@ void listCsv(benchmark::State& state)
 
 void writePreformatted(benchmark::State& state)
 {
-    const QString text = networkListCSV(syntheticList());
+    const QString text = networkListCSV(syntheticList(count));
     const QStringList rows = text.split(u'\n');
     CpuTimer timer(state, "preformatted", count);
     for (auto _ : state) {

@@ -2,6 +2,7 @@
 // QT_QPA_PLATFORM=offscreen: rows are painted into memory, as they are on a screen without a graphics card.
 
 #include "CpuTime.h"
+#include "SyntheticNetworks.h"
 #include "ui/main/NetworkListView.h"
 
 #include <QApplication>
@@ -9,34 +10,11 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <random>
 
 namespace aerolith {
 
 namespace {
-
-/// At 60 Hz.
-constexpr double frameMilliseconds = 1000.0 / 60;
-
-WiFiNetworkList accessPoints(int count)
-{
-    WiFiNetworkList networks;
-    networks.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        WiFiNetwork network;
-        network.bssid = QStringLiteral("0a:10:00:00:%1:%2")
-                            .arg(i >> 8 & 255, 2, 16, QChar(u'0'))
-                            .arg(i & 255, 2, 16, QChar(u'0'));
-        network.ssid = QStringLiteral("Network %1").arg(i);
-        network.channel = 1 + i % 13;
-        network.channelBand = QStringLiteral("2.4 GHz");
-        network.security = QStringLiteral("WPA2, Personal");
-        network.rssi = -35 - i % 60;
-        networks.append(network);
-    }
-    return networks;
-}
 
 /// A scan later: every signal has moved a little, and the list is in the order of the signals.
 WiFiNetworkList drifted(WiFiNetworkList networks, std::mt19937& random)
@@ -55,7 +33,7 @@ struct Scans
     explicit Scans(const benchmark::State& state)
     {
         std::mt19937 random(42);
-        lists[0].networks = drifted(accessPoints(static_cast<int>(state.range(0))), random);
+        lists[0].networks = drifted(syntheticList(static_cast<int>(state.range(0))), random);
         lists[1].networks = drifted(lists[0].networks, random);
     }
 
@@ -144,10 +122,6 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    for (const char* name : {"reordered", "in place", "cold", "paint"}) {
-        const double milliseconds = aerolith::measured()[{name, 10'000}].mean * 1000;
-        std::printf("10,000 rows, %s: %.1f ms, %.0f %% of a frame\n", name, milliseconds,
-                    milliseconds / aerolith::frameMilliseconds * 100);
-    }
+    aerolith::printFrames("10,000 rows", {"reordered", "in place", "cold", "paint"}, 10'000);
     return 0;
 }

@@ -1,6 +1,7 @@
 // Decoding a dump of 1,000 access points against the user CPU time that `iw` takes to print the same dump.
 // `iw` can only read from a kernel, so netlink_replay.cpp hands it the dump.
 
+#include "CpuTime.h"
 #include "platform/linux/nl80211/Messages.h"
 #include "platform/linux/nl80211/Sightings.h"
 
@@ -16,7 +17,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <fcntl.h>
 #include <spawn.h>
 #include <string>
@@ -30,10 +30,6 @@ namespace {
 
 constexpr int accessPoints = 1'000;
 
-/// CPU seconds of one run, for the ratios at the end.
-double decodeSeconds = 0;
-double printSeconds = 0;
-double startSeconds = 0;
 int printedAccessPoints = 0;
 
 /// Where the address of the access point lies in a message of a dump.
@@ -114,39 +110,30 @@ double runIw(const std::string& dumpFile, const std::string& output)
     return seconds(usage.ru_utime);
 }
 
-double threadSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
 /// From the bytes of the dump to the networks that a scan returns.
 void decodeDump(benchmark::State& state)
 {
     const QByteArray dump = largeDump();
-    double total = 0;
+    CpuTimer timer(state, "decode", accessPoints);
     for (auto _ : state) {
-        const double start = threadSeconds();
-        const auto entries = decodeBssEntries(bytesOf(dump));
-        const QList<CWNetwork> networks = sightings(entries.value(), BootTime::min(), BootTime::zero(), {});
-        const double elapsed = threadSeconds() - start;
-        if (networks.size() != accessPoints) {
+        qsizetype count = 0;
+        timer.time([&] {
+            const auto entries = decodeBssEntries(bytesOf(dump));
+            count = sightings(entries.value(), BootTime::min(), BootTime::zero(), {}).size();
+        });
+        if (count != accessPoints) {
             state.SkipWithError("access points are missing");
             return;
         }
-        state.SetIterationTime(elapsed);
-        total += elapsed;
     }
-    decodeSeconds = total / static_cast<double>(state.iterations());
 }
 
-double iwRuns(benchmark::State& state, const QByteArray& dump)
+void iwRuns(benchmark::State& state, const char* what, const QByteArray& dump)
 {
     QTemporaryFile file;
     if (!file.open() || file.write(dump) != dump.size() || !file.flush()) {
         state.SkipWithError("the dump cannot be written");
-        return 0;
+        return;
     }
     const std::string name = file.fileName().toStdString();
     QTemporaryFile output;
@@ -154,25 +141,22 @@ double iwRuns(benchmark::State& state, const QByteArray& dump)
         runIw(name, output.fileName().toStdString());
         printedAccessPoints = static_cast<int>(output.readAll().count("\tfreq: "));
     }
-    double total = 0;
+    CpuTimer timer(state, what, accessPoints);
     for (auto _ : state) {
-        const double elapsed = runIw(name, "/dev/null");
-        state.SetIterationTime(elapsed);
-        total += elapsed;
+        timer.count(runIw(name, "/dev/null"));
     }
-    return total / static_cast<double>(state.iterations());
 }
 
 void iwPrintsDump(benchmark::State& state)
 {
-    printSeconds = iwRuns(state, largeDump());
+    iwRuns(state, "print", largeDump());
 }
 
 /// What `iw` takes for itself, with nothing to print.
 void iwStarts(benchmark::State& state)
 {
     const int printed = printedAccessPoints;
-    startSeconds = iwRuns(state, {});
+    iwRuns(state, "start", {});
     printedAccessPoints = printed;
 }
 
@@ -187,7 +171,9 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     std::printf("iw printed %d access points\n", printedAccessPoints);
-    std::printf("decode / iw's user time: %.3f (%.3f without iw's start)\n", decodeSeconds / printSeconds,
-                decodeSeconds / (printSeconds - startSeconds));
+    // The kernel knows the user time of a process by its ticks alone: no single run of `iw` tells it.
+    const auto mean = [](const char* name) { return measured()[{name, accessPoints}].mean; };
+    std::printf("decode / iw's user time: %.3f (%.3f without iw's start)\n", mean("decode") / mean("print"),
+                mean("decode") / (mean("print") - mean("start")));
     return 0;
 }

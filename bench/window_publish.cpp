@@ -12,15 +12,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
 #include <random>
 
 namespace aerolith {
 
 namespace {
-
-/// At 60 Hz.
-constexpr double frameMilliseconds = 1000.0 / 60;
 
 /// Enough to fill the histories.
 constexpr int cyclesBefore = 50;
@@ -117,10 +113,6 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    for (const char* name : {"views", "cycle"}) {
-        const double milliseconds = aerolith::measured()[{name, 10'000}].mean * 1000;
-        std::printf("10,000 access points, %s: %.1f ms, %.0f %% of a frame\n", name, milliseconds,
-                    milliseconds / aerolith::frameMilliseconds * 100);
-    }
+    aerolith::printFrames("10,000 access points", {"views", "cycle"}, 10'000);
     return 0;
 }

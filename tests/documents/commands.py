@@ -2,8 +2,8 @@
 """commands.py SOURCE BUILD: runs every command that a document of SOURCE shows, with the programs of BUILD, one after
 the other in a folder of the document's own.
 
-A command that takes long, needs the user's radio or changes the machine is run in a form of its own (HOW, SHORTER). A
-command that fails fails the test; so does an entry of HOW that no document shows any more."""
+A command that takes long, needs the user's radio or changes the machine is run in a form of its own, or not at all
+(FORMS). A command that fails fails the test; so does an entry of FORMS that fits no command of any document."""
 
 import os
 import pathlib
@@ -12,32 +12,21 @@ import subprocess
 import sys
 import tempfile
 
-# What some commands become; None where other tests run them, which are named beside it.
-HOW = {
-    "./run": None,  # its two steps, building and starting: package.build and desktop.*
-    "./test": None,  # this test among the others
-    "cmake --preset dev": "cmake --preset dev -N",
-    "cmake --build --preset dev": "cmake --build --preset dev -- -n",
-    # Within ctest: their lists alone.
-    "ctest --preset dev -L unit": "ctest --preset dev -L unit -N | grep WiFiScanner",
-    "ctest --preset dev -R SettingsFile": "ctest --preset dev -R SettingsFile -N | grep SettingsFile",
-    "cmake --preset bench && cmake --build --preset bench": "cmake --preset bench -N",
-    "cmake --preset fuzz && cmake --build --preset fuzz --target fuzzers": None,  # fuzz.build
-    "cmake --preset release -DBUILD_TESTING=ON": "cmake --preset release -N",
-    "cmake --build --preset release --target aerolith radio-medium": None,  # package.build
-    "bench/start": "bench/start build/dev quick",
-    "cmake --preset release -DAEROLITH_UPDATE_FEED=https://updates.example.org/feed.xml -DAEROLITH_UPDATE_KEY=KEY":
-        "cmake --preset release -N",
-}
-
-# Commands that are not run here either.
-ELSEWHERE = re.compile(
-    r"(AEROLITH_\w+=('.*'|\S+) )?tests/radio/run\.sh "  # the same script and machine as in radio.*
-    r"|docs/screenshots/look "  # for the eye; the views, and the way to each, are those of desktop.accessibility
-    r"|packaging/install-packages (air|peers)$")  # hundreds of megabytes that only the long forms need
-
-# What makes the others short, and independent of the machine's radio.
-SHORTER = (
+# What commands become, one entry after the other; None where other tests run them, which are named beside it.
+FORMS = (
+    (r"^\./run$", None),  # its two steps, building and starting: package.build and desktop.*
+    (r"^\./test$", None),  # this test among the others
+    (r"--target fuzzers$", None),  # fuzz.build
+    (r"--target aerolith radio-medium$", None),  # package.build
+    (r"^(AEROLITH_\w+=('.*'|\S+) )?tests/radio/run\.sh ", None),  # the same script and machine as in radio.*
+    (r"^docs/screenshots/look ", None),  # for the eye; the views, and the way to each, are desktop.accessibility's
+    (r"^packaging/install-packages (air|peers)$", None),  # hundreds of megabytes that only the long forms need
+    # Within CMake and ctest: what they would do alone.
+    (r"^(cmake --preset \w+)( -D\S+| && cmake --build --preset bench)*$", r"\1 -N"),
+    (r"^cmake --build --preset dev$", r"\g<0> -- -n"),
+    (r"^ctest --preset dev -[LR] \w+$", r"\g<0> -N | grep -c 'Test *#'"),
+    (r"^bench/start( build/bench tray)?$", "bench/start build/dev quick"),
+    # Short, and independent of the machine's radio.
     (r"^\./run --simulate", "timeout --foreground --preserve-status 3 aerolith --simulate"),
     (r"\baerolith-scan(?! --help)", "aerolith-scan --simulate docs/scenarios/moving-away.json"),
     (r"0a:1b:2c:3d:4e:5f", "02:5a:30:00:00:04"),  # is in there
@@ -61,13 +50,13 @@ def commands(document):
             yield re.sub(r"\s+#.*", "", shown[1])
 
 
-def form(command):
-    if ELSEWHERE.match(command):
-        return None
-    if command in HOW:
-        return HOW[command]
-    for pattern, replacement in SHORTER:
-        command = re.sub(pattern, replacement, command)
+def form(command, seen):
+    for pattern, replacement in FORMS:
+        if re.search(pattern, command):
+            seen.add(pattern)
+            if replacement is None:
+                return None
+            command = re.sub(pattern, replacement, command)
     return command
 
 
@@ -93,7 +82,7 @@ def run(command, folder, environment):
 
 def main(source, build):
     listed = subprocess.run(["git", "-C", source, "ls-files", "*.md"], capture_output=True, text=True, check=True)
-    unseen, failed = set(HOW), 0
+    seen, failed = set(), 0
     for name in listed.stdout.split():
         shown = list(commands(source / name))
         if name == "ARCHITECTURE.md" or not shown:
@@ -104,13 +93,13 @@ def main(source, build):
             folder_like(source, build, folder)
             environment = dict(os.environ, PATH=f"{build / 'bin'}:{os.environ['PATH']}", XDG_CONFIG_HOME=path)
             for command in shown:
-                unseen.discard(command)
-                what = form(command)
+                what = form(command, seen)
                 # CMake knows its folders by their real names.
                 where = source if re.match("cmake|ctest", command) else folder
                 failed += what is not None and not run(what, where, environment)
-    for command in unseen:
-        print("no document shows", command)
+    unseen = {pattern for pattern, _ in FORMS} - seen
+    for pattern in unseen:
+        print("no document shows", pattern)
     return failed + len(unseen)
 
 

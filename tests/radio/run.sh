@@ -1,11 +1,14 @@
 #!/bin/bash
 # run.sh SCENARIO PROGRAM CACHE RESULTS [SECONDS]: boots a virtual machine with simulated radios, runs
-# scenarios/SCENARIO.sh in it with the built PROGRAM and judges what it has left in RESULTS. CACHE keeps the kernel
-# between runs. Ends with 0 (as it should be), 1 (a fault) or 77 (this machine cannot run it; says why).
+# scenarios/SCENARIO.sh in it with the built PROGRAM and judges what it has left in RESULTS by judge/SCENARIO.py; a
+# SCENARIO that is a file has its judge beside it. CACHE keeps the kernel between runs. Ends with 0 (as it should be), 1
+# (a fault) or 77 (this machine cannot run it; says why).
 set -euo pipefail
 
 bed=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-scenario=$1 program=$(realpath "$2") cache=$(realpath -m "$3") results=$(realpath -m "$4") seconds=${5:-900}
+scenario=$bed/scenarios/$1.sh judge=$bed/judge/$1.py
+[ ! -f "$1" ] || scenario=$(realpath "$1") judge=${scenario%.sh}.py
+program=$(realpath "$2") cache=$(realpath -m "$3") results=$(realpath -m "$4") seconds=${5:-900}
 
 skip() {
     echo "skipped: $*"
@@ -35,7 +38,7 @@ prepare_kernel "$cache"
 rm -rf "$results"
 mkdir -p "$results/plan"
 prepare_initrd "$cache" "$bed/guest/init" "$results/initrd.gz"
-python3 "$bed/judge/plans.py" "$scenario" "$results/plan"
+python3 "$bed/judge/plans.py" "$(basename "$scenario" .sh)" "$results/plan"
 printf '%s=%q\n' BED "$bed" SCENARIO "$scenario" PROGRAM "$program" \
     AEROLITH_SOAK_SECONDS "${AEROLITH_SOAK_SECONDS:-3600}" \
     AEROLITH_FAULTS "${AEROLITH_FAULTS:-manager join supplicant radio bus clock}" \
@@ -47,4 +50,4 @@ if ! boot_machine "$cache" "$results" "$seconds" "$results/console.log"; then
     exit 1
 fi
 grep '^guest:' "$results/console.log" || true
-python3 "$bed/judge/$scenario.py" "$results"
+PYTHONPATH=$bed/judge python3 "$judge" "$results"

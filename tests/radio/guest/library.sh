@@ -128,6 +128,13 @@ set_signals() {
     done
 }
 
+# start_medium FILE: what the station hears, from now on and as long as $MEDIUM runs, is what FILE makes up.
+start_medium() {
+    "$(dirname "$PROGRAM")/radio-medium" "$1" >/run/medium.log 2>&1 &
+    MEDIUM=$!
+    wait_for 90 grep -q ready /run/medium.log || give_up "no medium: $(cat /run/medium.log)"
+}
+
 # start_access_points: every one of the plan, each radio at its signal strength and with its address.
 start_access_points() {
     local number file files

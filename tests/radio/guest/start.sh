@@ -9,6 +9,6 @@ mount_system_folders
 start_system_services
 add_user
 # shellcheck source=/dev/null
-. "$BED/scenarios/$SCENARIO.sh"
+. "$SCENARIO"
 say end
 finish

@@ -47,7 +47,7 @@ def made_up(number: int, chance: random.Random) -> str:
     return f"{address} {frequency} {chance.randint(-92, -35)} {capability:x} {frame.hex()}"
 
 
-def make(file: Path, count: int = COUNT) -> None:
+def make(file: Path, count: int) -> None:
     chance = random.Random(SEED)
     file.write_text("".join(made_up(number, chance) + "\n" for number in range(count)))
 
@@ -68,8 +68,7 @@ def main(results: Path) -> int:
         faults.expect(len(records) >= LEAST_HEARD * COUNT, "too few of them have been heard")
         print_opinions([opinion])
     faults.count += sum(opinion.unexplained.values())
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

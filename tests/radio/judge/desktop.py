@@ -31,8 +31,7 @@ def main(results: Path) -> int:
         judge_grant(results, faults)
     told = step.text("log") + step.text("stdout") + step.text("stderr")
     faults.expect("horse" not in told, "the password was told")
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

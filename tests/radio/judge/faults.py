@@ -132,8 +132,7 @@ def main(results: Path) -> int:
         # Access points that are on the air have not all gone just because no scan took place.
         faults.expect("Found 0 networks" not in lines, f"{program} has taken a scan that failed for an empty air")
     judge_cycles(watch.text("stdout").splitlines(), faults)
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

@@ -4,7 +4,7 @@ import re
 import sys
 from pathlib import Path
 
-from plans import PASSWORD
+from settings import PASSWORD
 from steps import Faults, Step
 
 # Step: the network that the machine is joined to in the end, as iw prints its name.
@@ -74,8 +74,7 @@ def main(results: Path) -> int:
     for name, blocked in (("power-off", "1\n"), ("power-on", "0\n")):
         step = Step(results, name)
         faults.expect(step.status == 0 and step.text("blocked") == blocked, f"{name}: {step.message}")
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

@@ -8,40 +8,39 @@ import sys
 from pathlib import Path
 
 import crowd
-import peers
 from access_points import AccessPoint, Plan, Radio
 from every_kind import SCAN
-from settings import EAP, PASSWORD, PSK
+from settings import EAP, MAY_PROTECT, MIXED, PASSWORD, PROTECTED, PSK, WPA2
 
 # Few, so that each is quick to answer.
 JOIN = Plan((
     Radio("hw_mode=g;ieee80211n=1", 1, 20, "b g n", (
-        AccessPoint(b"wpa2", f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}"),
-        AccessPoint(b"wpa wpa2", f"wpa=3;wpa_key_mgmt=WPA-PSK;wpa_pairwise=TKIP CCMP;rsn_pairwise=CCMP;{PSK}"),
-        AccessPoint(b"wpa3", f"wpa=2;wpa_key_mgmt=SAE;rsn_pairwise=CCMP;ieee80211w=2;{PSK}"),
-        AccessPoint(b"wpa2 wpa3", f"wpa=2;wpa_key_mgmt=WPA-PSK SAE;rsn_pairwise=CCMP;ieee80211w=1;{PSK}"),
-        AccessPoint(b"owe", "wpa=2;wpa_key_mgmt=OWE;rsn_pairwise=CCMP;ieee80211w=2"),
+        AccessPoint(b"wpa2", f"{WPA2}WPA-PSK;{PSK}"),
+        AccessPoint(b"wpa wpa2", f"{MIXED}WPA-PSK;{PSK}"),
+        AccessPoint(b"wpa3", f"{PROTECTED}SAE;{PSK}"),
+        AccessPoint(b"wpa2 wpa3", f"{MAY_PROTECT}WPA-PSK SAE;{PSK}"),
+        AccessPoint(b"owe", f"{PROTECTED}OWE"),
         AccessPoint(b"open"),
         AccessPoint(b"wep", 'auth_algs=1;wep_default_key=0;wep_key0="abcde"'),
-        AccessPoint(b"eap", f"wpa=2;wpa_key_mgmt=WPA-EAP;rsn_pairwise=CCMP;{EAP}"),
+        AccessPoint(b"eap", f"{WPA2}WPA-EAP;{EAP}"),
     )),
     Radio("hw_mode=g;ieee80211n=1", 6, 20, "b g n", (
         AccessPoint(bytes.fromhex("68696464656e20fffe"),
-                    f"ignore_broadcast_ssid=1;wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}", hidden=True),
+                    f"ignore_broadcast_ssid=1;{WPA2}WPA-PSK;{PSK}", hidden=True),
     ), role="hidden"),
     Radio("hw_mode=g;ieee80211n=1", 11, 20, "b g n", (
-        AccessPoint(b"leaving", f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}"),
+        AccessPoint(b"leaving", f"{WPA2}WPA-PSK;{PSK}"),
     ), role="leaving"),
 ))
 
 WINDOW = Plan((
     Radio("hw_mode=a;ieee80211n=1;ieee80211ac=1;ht_capab=[HT40+];vht_oper_chwidth=1;vht_oper_centr_freq_seg0_idx=42",
           36, 80, "a n ac", (
-              AccessPoint(b"Home & <b>Garden</b>", f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}"),
+              AccessPoint(b"Home & <b>Garden</b>", f"{WPA2}WPA-PSK;{PSK}"),
           ), rx_rssi=-70, role="chosen"),
     Radio("hw_mode=g;ieee80211n=1", 6, 20, "b g n", (AccessPoint(b"Library"),), rx_rssi=-82),
     Radio("hw_mode=g;ieee80211n=1", 11, 20, "b g n", (
-        AccessPoint(b"Workshop", f"wpa=2;wpa_key_mgmt=SAE;rsn_pairwise=CCMP;ieee80211w=2;{PSK}"),
+        AccessPoint(b"Workshop", f"{PROTECTED}SAE;{PSK}"),
     ), rx_rssi=-55),
 ))
 
@@ -57,23 +56,23 @@ SOAK = Plan(tuple(plain(channel, ("Library", "Workshop", "Café", "Office", "Gue
                   for channel in (1, 6, 11, 36, 48, 149)))
 
 FAULTS = Plan((
-    plain(1, ("Library",), f"wpa=2;wpa_key_mgmt=WPA-PSK;rsn_pairwise=CCMP;{PSK}", role="joined"),
+    plain(1, ("Library",), f"{WPA2}WPA-PSK;{PSK}", role="joined"),
     plain(6, ("Workshop", "Café")),
     plain(36, ("Office", "Guests"), rx_rssi=-80),
 ))
 
 PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK,
          "faults": FAULTS, "peers": Plan((), country="GT")}
+CROWDS = {"crowd": (crowd.COUNT,), "faults": (crowd.COUNT,), "peers": (60, 500)}
 
 
 def main(scenario: str, folder: Path) -> None:
     PLANS[scenario].write(folder)
+    sizes = CROWDS.get(scenario, ())
+    for size in sizes:
+        crowd.make(folder / f"crowd-{size}", size)
     with (folder / "plan.sh").open("a") as plan:
-        plan.write(f"PASSWORD='{PASSWORD}'\n")
-    if scenario in ("crowd", "faults"):
-        crowd.make(folder / "crowd")
-    if scenario == "peers":
-        peers.make(folder)
+        plan.write(f"PASSWORD='{PASSWORD}'\nCROWD='{' '.join(map(str, sizes))}'\n")
     (folder / "eap.users").write_text('* PEAP\n"alice" MSCHAPV2 "wonderland" [2]\n')
 
 

@@ -88,8 +88,7 @@ def main(results: Path) -> int:
         for name in ("window", "scanner"):
             judge_program(name, read(step.folder / f"{name}.csv"), faults)
         judge_coming_and_going(step.text("scanner.log").splitlines(), faults)
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

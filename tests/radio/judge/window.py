@@ -50,8 +50,7 @@ def main(results: Path) -> int:
         faults.expect({row["BSSID"] for row in rows} == made, f"exported: {rows}")
         for row in rows:
             compare(row["SSID"], row, COLUMNS, step.entries[row["BSSID"]], faults)
-    print(f"{faults.count} faults")
-    return 1 if faults.count else 0
+    return faults.verdict()
 
 
 if __name__ == "__main__":

@@ -4,8 +4,7 @@
 
 modprobe cfg80211 bss_entries_limit=4000 # the kernel keeps 1,000 by itself
 start_radios
-"$(dirname "$PROGRAM")/radio-medium" /out/plan/crowd >/run/medium.log 2>&1 &
-wait_for 30 grep -q ready /run/medium.log || give_up "no medium: $(cat /run/medium.log)"
+start_medium "/out/plan/crowd-$CROWD"
 watch_scans
 start_network_manager
 permit yes

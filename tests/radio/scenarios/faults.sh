@@ -91,15 +91,12 @@ mend_endless() { stop_service wpa_supplicant CONT; }
 
 # The medium takes the place of the air: nothing else is heard.
 break_crowd() {
-    "$(dirname "$PROGRAM")/radio-medium" /out/plan/crowd >/run/medium.log 2>&1 &
-    MEDIUM=$!
+    start_medium "/out/plan/crowd-$CROWD"
     wait_for 240 crowd_is_listed
 }
 # An emulated machine that is short of time misses some in every scan.
 crowd_is_listed() {
-    local crowd
-    crowd=$(wc -l </out/plan/crowd)
-    [ "$(tail -n "$crowd" /out/watch/stdout | grep -c '"bssid":"0a:10:')" -ge $((crowd * 95 / 100)) ]
+    [ "$(tail -n "$CROWD" /out/watch/stdout | grep -c '"bssid":"0a:10:')" -ge $((CROWD * 95 / 100)) ]
 }
 mend_crowd() { kill "$MEDIUM"; }
 

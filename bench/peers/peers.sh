@@ -1,13 +1,11 @@
 # shellcheck shell=bash
 # Aerolith beside the graphical tools that list networks on Debian, each started cold among 60 and among 500 made-up
-# access points. Sourced in the guest; judged on the host by judge/peers.py.
+# access points. Sourced in the guest; judged on the host by peers.py.
 
 # crowd SIZE: that many access points are on the air from now on, and the kernel has forgotten any others.
 crowd() {
     [ -z "${MEDIUM:-}" ] || kill "$MEDIUM"
-    "$(dirname "$PROGRAM")/radio-medium" "/out/plan/crowd-$1" >/run/medium.log 2>&1 &
-    MEDIUM=$!
-    wait_for 30 grep -q ready /run/medium.log || give_up "no medium: $(cat /run/medium.log)"
+    start_medium "/out/plan/crowd-$1"
 }
 
 start_screen() {
@@ -25,7 +23,7 @@ peer() {
     local size=$1 name=$2
     shift 2
     mkdir /sys/fs/cgroup/program
-    timeout -k 5 600 dbus-run-session -- /usr/bin/python3 -B "$BED/guest/peer.py" "$name" "/out/$name-$size.json" \
+    timeout -k 5 600 dbus-run-session -- /usr/bin/python3 -B "$(dirname "$SCENARIO")/peer.py" "$name" "/out/$name-$size.json" \
         /run/screen/Xvfb_screen0 "$@" >"/out/$name-$size.log" 2>&1
     echo 1 >/sys/fs/cgroup/program/cgroup.kill
     wait_for 30 rmdir /sys/fs/cgroup/program
@@ -47,7 +45,7 @@ start_network_manager
 keep_services_apart
 iw event -t >/run/scans.log &
 start_screen
-for size in $SIZES; do
+for size in $CROWD; do
     crowd "$size"
     peer "$size" aerolith "$PROGRAM"
     peer "$size" linssid linssid

@@ -1,13 +1,12 @@
-"""Makes the crowds for scenarios/peers.sh, and tells what it has measured as a Markdown table: run with the results
-folder; exit status 1 where a program has shown no list."""
+"""Tells what peers.sh has measured as a Markdown table: run with the results folder; exit status 1 where a program has
+shown no list."""
 
 import json
 import sys
 from pathlib import Path
 
-import crowd
+from plans import CROWDS
 
-SIZES = (60, 500)
 NAMES = ("aerolith", "linssid", "wpa_gui")
 COLUMNS = {
     "first_list": ("First list (s)", ".1f"),
@@ -18,13 +17,6 @@ COLUMNS = {
     "scans": ("Scans", "d"),
 }
 COMPARED = ("first_list", "memory", "cpu", "processes")
-
-
-def make(folder: Path) -> None:
-    for size in SIZES:
-        crowd.make(folder / f"crowd-{size}", size)
-    with (folder / "plan.sh").open("a") as plan:
-        plan.write(f"SIZES='{' '.join(map(str, SIZES))}'\n")
 
 
 def row(*cells: str) -> None:
@@ -49,7 +41,7 @@ def table(size: int, measured: dict) -> None:
 
 def main(results: Path) -> int:
     missing = 0
-    for size in SIZES:
+    for size in CROWDS["peers"]:
         files = {name: results / f"{name}-{size}.json" for name in NAMES}
         measured = {name: json.loads(file.read_text()) for name, file in files.items() if file.exists()}
         for name in files.keys() - measured.keys():
