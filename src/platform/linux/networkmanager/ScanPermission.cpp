@@ -103,10 +103,21 @@ bool ScanPermission::isServiceRegistered() const
 
 void ScanPermission::ask()
 {
-    if (m_state != State::undecided || m_asking) {
+    if (m_state != State::undecided || m_asking != Asking::no) {
         return;
     }
-    m_asking = true;
+    // Before the first answer nothing tells whether there is anything to ask: the request itself would scan,
+    // or be refused.
+    if (m_answer == Answer::unread) {
+        m_asking = Asking::onceRead;
+    } else {
+        askUser();
+    }
+}
+
+void ScanPermission::askUser()
+{
+    m_asking = Asking::underWay;
     watch(m_link->manager.GetDevices(), [this](const QDBusPendingCall& call) {
         const QDBusPendingReply<QList<QDBusObjectPath>> reply = call;
         QStringList paths;
@@ -147,7 +158,7 @@ void ScanPermission::askDevices(const QStringList& paths)
 
 void ScanPermission::decide(bool granted)
 {
-    m_asking = false;
+    m_asking = Asking::no;
     if (m_running) {
         m_decision = granted;
         update();
@@ -177,8 +188,21 @@ void ScanPermission::read()
         if (number == m_reads) {
             take(call);
             update();
+            askIfWaiting();
         }
     });
+}
+
+// Also where there was no answer in time: the request then finds out.
+void ScanPermission::askIfWaiting()
+{
+    if (m_asking != Asking::onceRead) {
+        return;
+    }
+    m_asking = Asking::no;
+    if (m_state == State::undecided) {
+        askUser();
+    }
 }
 
 void ScanPermission::take(const QDBusPendingCall& call)

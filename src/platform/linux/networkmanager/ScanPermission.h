@@ -41,8 +41,9 @@ public:
     /// As last known; does not block.
     [[nodiscard]] State state() const { return m_state; }
 
-    /// While undecided, requests a scan for which the system may ask the user for a password. Returns at
-    /// once; what comes of it holds until the permission itself changes.
+    /// While undecided, requests a scan for which the system may ask the user for a password, as soon as
+    /// NetworkManager has answered that it would. Returns at once; what comes of it holds until the
+    /// permission itself changes.
     void ask();
 
 private:
@@ -52,6 +53,13 @@ private:
         yes,
         authentication,
         no
+    };
+
+    enum class Asking
+    {
+        no,
+        onceRead,
+        underWay
     };
 
     /// What a connection to the bus carries.
@@ -67,6 +75,8 @@ private:
     void take(const QDBusPendingCall& call);
     void setRunning(bool running);
     void setAnswer(Answer answer);
+    void askUser();
+    void askIfWaiting();
     void askDevices(const QStringList& paths);
     void decide(bool granted);
     void update();
@@ -82,7 +92,7 @@ private:
     Answer m_answer = Answer::unread;
     /// What the user's proof came to, while the answer is `authentication`.
     std::optional<bool> m_decision;
-    bool m_asking = false;
+    Asking m_asking = Asking::no;
     quint64 m_reads = 0;
     State m_state = State::undecided;
     /// Parent of the calls under way: destroyed first, so that none of them comes back to a destroyed object.

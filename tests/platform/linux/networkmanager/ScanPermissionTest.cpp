@@ -10,7 +10,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <latch>
 #include <optional>
+#include <tuple>
 
 namespace aerolith {
 namespace {
@@ -145,6 +147,30 @@ TEST_F(ScanPermissionTest, askingLetsTheSystemAskTheUser)
     m_fake->setScanPermission(u"auth"_s);
     EXPECT_TRUE(becomes(State::undecided));
     EXPECT_EQ(m_changes, 3);
+}
+
+TEST_F(ScanPermissionTest, asksNothingBeforeTheFirstAnswer)
+{
+    for (const auto& [permission, state, requests] :
+         {std::tuple{u"no"_s, State::refused, 0}, {u"auth"_s, State::granted, 1}}) {
+        startFake(permission);
+        std::latch answers(1);
+        m_fake->on(u"GetPermissions"_s, [&](const QDBusMessage& call) {
+            answers.wait();
+            return call.createReply(
+                QVariant::fromValue(PermissionMap{{u"org.freedesktop.NetworkManager.wifi.scan"_s, permission}}));
+        });
+        start();
+        EXPECT_EQ(m_permission->state(), State::undecided) << "no answer in time";
+        m_permission->ask();
+        answers.count_down();
+        EXPECT_TRUE(becomes(state));
+        m_fake->emitCheckPermissions();
+        ASSERT_TRUE(takesInEverything(3));
+        EXPECT_EQ(m_fake->calls(u"RequestScan"_s).size(), requests) << qPrintable(permission);
+        m_permission.reset();
+        m_fake.reset();
+    }
 }
 
 TEST_F(ScanPermissionTest, aRefusalIsKeptAndAnUnableDeviceIsNone)
