@@ -15,6 +15,9 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = float(os.environ.get("DESKTOP_PATIENCE", "60"))  # seconds; only a failure waits for all of it
 
+WINDOWS = ("frame", "dialog", "alert")
+LEAVES = ("list item", "label", "push button", "check box")
+
 # A press is answered when what it does is done: a radio may take its time to switch.
 Atspi.set_timeout(int(PATIENCE * 1000), int(PATIENCE * 1000))
 
@@ -88,16 +91,18 @@ class Element:
             if showing and not self.showing and self.role != "application":
                 return
             yield self
+            if self.role in LEAVES:
+                return
             for child in self.children:
                 yield from child.walk(showing)
 
-    def all(self, role=None, name=None, showing=True):
-        def fits(element):
-            with contextlib.suppress(GLib.Error):
-                return (role is None or element.role == role) and (name is None or element.name == name)
-            return False
+    def fits(self, role=None, name=None, showing=False):
+        with contextlib.suppress(GLib.Error):
+            return role in (None, self.role) and name in (None, self.name) and (self.showing or not showing)
+        return False
 
-        return [element for element in self.walk(showing) if fits(element)]
+    def all(self, role=None, name=None, showing=True):
+        return [element for element in self.walk(showing) if element.fits(role, name)]
 
     def find(self, role=None, name=None):
         """The one such element that shows, as soon as there is one."""
@@ -145,6 +150,14 @@ class Element:
     def centre(self):
         box = self.accessible.get_extents(Atspi.CoordType.SCREEN)
         return box.x + box.width // 2, box.y + box.height // 2
+
+
+class Application(Element):
+    def all(self, role=None, name=None, showing=True):
+        """Windows are looked for among its children alone: to read the whole tree takes seconds on a slow machine."""
+        if role not in WINDOWS:
+            return super().all(role, name, showing)
+        return [window for window in self.children if window.fits(role, name, showing)]
 
 
 def key(*names):
@@ -225,8 +238,9 @@ class Program:
             return next((a for a in desktop.children if a.accessible.get_process_id() == self.process.pid), None)
 
         application = wait_for("the program in the accessibility tree", found)
-        application.accessible.set_cache_mask(Atspi.Cache.NONE)
-        return application
+        # What an object is stays; anything else may change.
+        application.accessible.set_cache_mask(Atspi.Cache.ROLE)
+        return Application(application.accessible)
 
     def log(self):
         with open(self.log_path, encoding="utf-8") as log:

@@ -39,7 +39,8 @@ class Popover:
 
     def rows(self):
         window = self.window
-        return window.all("list item") if window else []
+        lists = window.all("list") if window else []
+        return [row for rows in lists for row in rows.children if row.fits(showing=True)]
 
     def row(self, prefix):
         return next((row for row in self.rows() if row.name.startswith(prefix)), None)
