@@ -53,11 +53,8 @@ public:
 
     void publish() { m_engine.main.drain(); }
 
-    void showAndPaint()
-    {
-        QApplication::processEvents();
-        m_window.repaint();
-    }
+    /// The window paints what has changed, almost all of it, on the same turn of the event loop.
+    void showAndPaint() { QApplication::processEvents(); }
 
 private:
     QList<CWNetwork> m_results;
