@@ -19,19 +19,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(MainMenu)
 };
 
-void showAbout(QWidget& window)
-{
-    auto* about = new QMessageBox(QMessageBox::NoIcon, Texts::tr("About Aerolith"),
-                                  Texts::tr("Aerolith %1").arg(QApplication::applicationVersion()),
-                                  QMessageBox::Close, &window);
-    about->setObjectName(u"about"_s);
-    about->setTextFormat(Qt::PlainText);
-    about->setInformativeText(
-        Texts::tr("Wi-Fi survey for the Linux desktop.\nFree software under the MIT License."));
-    about->setAttribute(Qt::WA_DeleteOnClose);
-    about->open();
-}
-
 } // namespace
 
 void addMainMenu(MainWindow& window, const MenuTargets& targets)
@@ -50,6 +37,20 @@ void addMainMenu(MainWindow& window, const MenuTargets& targets)
     QMenu* help = window.menuBar()->addMenu(Texts::tr("&Help"));
     help->addAction(Texts::tr("Contact &Support"), &window,
                     [targets] { contactSupport(targets.workspace, targets.log); });
+}
+
+void showAbout(QWidget& window)
+{
+    // All in one text: a message box breaks the lines of an informative text anew, to be as narrow as it can.
+    const QString text =
+        Texts::tr("Aerolith %1").arg(QApplication::applicationVersion()) + u"\n\n"_s +
+        Texts::tr("Wi-Fi survey for the Linux desktop.\nFree software under the MIT License.");
+    auto* about =
+        new QMessageBox(QMessageBox::NoIcon, Texts::tr("About Aerolith"), text, QMessageBox::Close, &window);
+    about->setObjectName(u"about"_s);
+    about->setTextFormat(Qt::PlainText);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
 }
 
 void contactSupport(Workspace& workspace, Log& log)

@@ -5,7 +5,12 @@
 #include "support/Printing.h"
 #include "support/RecordingLog.h"
 
+#include <QDialog>
+#include <QLabel>
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace aerolith {
 
@@ -38,6 +43,23 @@ TEST(ContactSupport, HandsTheMailToTheDesktopAndLogsARefusal)
     workspace.refusal = Error{u"no mail program"_s};
     contactSupport(workspace, log);
     EXPECT_EQ(log.take(), QStringList{u"Failed to open the support mail: no mail program"_s});
+}
+
+TEST(About, BreaksItsLinesWhereTheTextDoes)
+{
+    QWidget window;
+    window.show();
+    showAbout(window);
+    const auto* about = window.findChild<QDialog*>(u"about"_s);
+    ASSERT_TRUE(about != nullptr && about->isVisible());
+
+    int longest = 0;
+    for (const auto* label : about->findChildren<QLabel*>()) {
+        const int wanted = label->fontMetrics().size(0, label->text()).width();
+        EXPECT_GE(label->width(), wanted) << label->text().toStdString();
+        longest = std::max(longest, wanted);
+    }
+    EXPECT_GT(longest, 0);
 }
 
 } // namespace aerolith
