@@ -594,7 +594,7 @@ Software libre con licencia MIT.</translation>
     <message>
         <source>Last seen %1</source>
         <extracomment>%1 is a time before now, as in &quot;5 sec. ago&quot;.</extracomment>
-        <translation>Visto por última vez %1</translation>
+        <translation>Vista por última vez %1</translation>
     </message>
 </context>
 <context>
@@ -811,7 +811,7 @@ Software libre con licencia MIT.</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation>Útiles</translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Wi-Fi Settings...</source>

@@ -691,7 +691,7 @@ MIT ライセンスのフリーソフトウェアです。</translation>
     <message>
         <source>%1s</source>
         <extracomment>The scan interval beside its slider: seconds, in as little room as there is.</extracomment>
-        <translation>%1秒</translation>
+        <translation>%1 秒</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
@@ -701,12 +701,12 @@ MIT ライセンスのフリーソフトウェアです。</translation>
     </message>
     <message>
         <source>History Points</source>
-        <translation>履歴の点数</translation>
+        <translation>履歴の件数</translation>
     </message>
     <message numerus="yes">
         <source>%n points</source>
         <translation>
-            <numerusform>%n 点</numerusform>
+            <numerusform>%n 件</numerusform>
         </translation>
     </message>
     <message>
@@ -836,7 +836,7 @@ MIT ライセンスのフリーソフトウェアです。</translation>
     </message>
     <message>
         <source>What is new</source>
-        <translation>新着情報</translation>
+        <translation>更新内容</translation>
     </message>
     <message>
         <source>Downloaded</source>
