@@ -1,17 +1,8 @@
 #include "platform/linux/DeviceObstacle.h"
 
-#include <QCoreApplication>
+#include "platform/JoinTexts.h"
 
 namespace aerolith {
-
-namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
-
-} // namespace
 
 Failure deviceObstacle(const NetworkManager& manager, const QString& interfaceName)
 {
@@ -20,17 +11,17 @@ Failure deviceObstacle(const NetworkManager& manager, const QString& interfaceNa
         return switches.error();
     }
     if (!switches.value().on()) {
-        return Error{Texts::tr("The Wi-Fi radio is off")};
+        return Error{JoinTexts::tr("The Wi-Fi radio is off")};
     }
     const auto device = manager.device(interfaceName);
     if (!device.ok()) {
         return device.error();
     }
     if (!device.value()) {
-        return Error{Texts::tr("The Wi-Fi interface %1 is gone").arg(interfaceName)};
+        return Error{JoinTexts::tr("The Wi-Fi interface %1 is gone").arg(interfaceName)};
     }
     if (device.value()->state < DeviceState::disconnected) {
-        return Error{Texts::tr("The Wi-Fi interface %1 is not available").arg(interfaceName)};
+        return Error{JoinTexts::tr("The Wi-Fi interface %1 is not available").arg(interfaceName)};
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "platform/linux/InterfaceJoin.h"
 
+#include "platform/JoinTexts.h"
 #include "platform/Secret.h"
 #include "platform/linux/DeviceObstacle.h"
 #include "platform/linux/networkmanager/Activation.h"
@@ -9,19 +10,12 @@
 #include "platform/linux/networkmanager/StoredProfile.h"
 #include "platform/linux/nl80211/Sightings.h"
 
-#include <QCoreApplication>
-
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
 using nl80211::BootTime;
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
 
 class Join
 {
@@ -146,7 +140,7 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
                     const std::optional<QString>& password)
 {
     if (!network.bssid || network.ssidData.isEmpty()) {
-        return Error{Texts::tr("The network's name is not known")};
+        return Error{JoinTexts::tr("The network's name is not known")};
     }
     const auto info = wireless.interface(name);
     if (!info.ok()) {
@@ -154,7 +148,7 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
     }
     const NetworkManager manager(wireless.bus);
     if (!manager.isRunning()) {
-        return Error{Texts::tr("NetworkManager is not running")};
+        return Error{JoinTexts::tr("NetworkManager is not running")};
     }
     if (auto silence = manager.awaitAnswer()) {
         return silence;
@@ -164,7 +158,7 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
         return device.error();
     }
     if (!device.value() || device.value()->state == DeviceState::unmanaged) {
-        return Error{Texts::tr("NetworkManager does not manage the Wi-Fi interface %1").arg(name)};
+        return Error{JoinTexts::tr("NetworkManager does not manage the Wi-Fi interface %1").arg(name)};
     }
     if (auto obstacle = deviceObstacle(manager, name)) {
         return obstacle;

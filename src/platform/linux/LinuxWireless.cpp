@@ -1,21 +1,11 @@
 #include "platform/linux/LinuxWireless.h"
 
+#include "platform/JoinTexts.h"
 #include "platform/linux/nl80211/Sightings.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
 namespace aerolith {
-
-namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
-
-} // namespace
 
 LinuxWireless::LinuxWireless(std::unique_ptr<nl80211::Nl80211> ownedKernel, BusAddress busAddress,
                              QString systemFilesPath, Log& lineLog)
@@ -37,7 +27,7 @@ Result<nl80211::InterfaceInfo> LinuxWireless::interface(const QString& name)
             return info;
         }
     }
-    return Error{Texts::tr("The Wi-Fi interface %1 is gone").arg(name)};
+    return Error{JoinTexts::tr("The Wi-Fi interface %1 is gone").arg(name)};
 }
 
 QList<nl80211::BssEntry> LinuxWireless::entries(const QString& interfaceName)

@@ -1,6 +1,6 @@
 #include "platform/simulated/SimulatedInterface.h"
 
-#include <QCoreApplication>
+#include "platform/JoinTexts.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,12 +10,6 @@ using namespace Qt::StringLiterals;
 namespace aerolith {
 
 namespace {
-
-/// The words are those of the real machine.
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
 
 CWNetwork withheld(CWNetwork network)
 {
@@ -86,7 +80,7 @@ bool SimulatedInterface::powerOn() const
 Failure SimulatedInterface::setPower(bool on)
 {
     if (!isPluggedIn()) {
-        return Error{Texts::tr("The Wi-Fi interface is gone")};
+        return Error{JoinTexts::tr("The Wi-Fi interface is gone")};
     }
     if (m_description.powerRefused) {
         return Error{*m_description.powerRefused};
@@ -134,7 +128,7 @@ Failure SimulatedInterface::associateToNetwork(const CWNetwork& network,
     }
     const auto needed = m_scenario.passwords.constFind(QString::fromUtf8(network.ssidData));
     if (needed != m_scenario.passwords.cend() && *needed != password.value_or(QString())) {
-        return Error{Texts::tr("The password is not correct")};
+        return Error{JoinTexts::tr("The password is not correct")};
     }
     m_joinedByUser = ScenarioAssociation{network.ssid, network.bssid};
     return {};
@@ -176,10 +170,10 @@ void SimulatedInterface::stopScanning()
 Failure SimulatedInterface::refusal() const
 {
     if (!m_pluggedIn) {
-        return Error{Texts::tr("The Wi-Fi interface is gone")};
+        return Error{JoinTexts::tr("The Wi-Fi interface is gone")};
     }
     if (!m_powerOn) {
-        return Error{Texts::tr("The Wi-Fi radio is off")};
+        return Error{JoinTexts::tr("The Wi-Fi radio is off")};
     }
     return {};
 }

@@ -1,15 +1,10 @@
 #include "platform/linux/networkmanager/JoinFailure.h"
 
-#include <QCoreApplication>
+#include "platform/JoinTexts.h"
 
 namespace aerolith {
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
 
 /// The reasons that NetworkManager gives for a device's change of state, by their numbers on the bus.
 enum class Reason : quint32
@@ -42,41 +37,43 @@ QString refusal(const CWNetwork& network)
     const auto provesPasswordEarly =
         network.supportsSecurity(CWSecurity::wpa3Personal) || network.supportsSecurity(CWSecurity::wep);
     return provesPasswordEarly
-               ? Texts::tr("The network does not let this machine in: the password is probably not correct")
-               : Texts::tr("The network does not let this machine in");
+               ? JoinTexts::tr(
+                     "The network does not let this machine in: the password is probably not correct")
+               : JoinTexts::tr("The network does not let this machine in");
 }
 
 QString describe(quint32 reason, const CWNetwork& network, bool stillHeard)
 {
     switch (static_cast<Reason>(reason)) {
     case Reason::noSecrets:
-        return takesPassword(network) ? Texts::tr("The password is not correct")
-                                      : Texts::tr("The login that is stored for the network is not correct");
+        return takesPassword(network)
+                   ? JoinTexts::tr("The password is not correct")
+                   : JoinTexts::tr("The login that is stored for the network is not correct");
     case Reason::ssidNotFound:
-        return stillHeard ? refusal(network) : Texts::tr("The network is out of reach");
+        return stillHeard ? refusal(network) : JoinTexts::tr("The network is out of reach");
     case Reason::noAddress:
     case Reason::dhcpStart:
     case Reason::dhcpError:
     case Reason::dhcpFailed:
-        return Texts::tr("The network gave this machine no address");
+        return JoinTexts::tr("The network gave this machine no address");
     case Reason::supplicantDisconnected:
-        return Texts::tr("The access point broke off the attempt to join");
+        return JoinTexts::tr("The access point broke off the attempt to join");
     case Reason::supplicantTimeout:
-        return Texts::tr("The access point did not answer in time");
+        return JoinTexts::tr("The access point did not answer in time");
     case Reason::supplicantConfiguration:
     case Reason::supplicantFailed:
-        return Texts::tr("This machine's Wi-Fi service failed to join the network");
+        return JoinTexts::tr("This machine's Wi-Fi service failed to join the network");
     case Reason::deviceRemoved:
-        return Texts::tr("The Wi-Fi interface is gone");
+        return JoinTexts::tr("The Wi-Fi interface is gone");
     case Reason::sleeping:
-        return Texts::tr("Networking was switched off, or the machine went to sleep");
+        return JoinTexts::tr("Networking was switched off, or the machine went to sleep");
     case Reason::profileRemoved:
     case Reason::userRequested:
-        return Texts::tr("The attempt to join was ended from elsewhere");
+        return JoinTexts::tr("The attempt to join was ended from elsewhere");
     case Reason::otherActivation:
-        return Texts::tr("Another connection was started meanwhile");
+        return JoinTexts::tr("Another connection was started meanwhile");
     }
-    return Texts::tr("NetworkManager failed to join the network, for its reason number %1").arg(reason);
+    return JoinTexts::tr("NetworkManager failed to join the network, for its reason number %1").arg(reason);
 }
 
 } // namespace
@@ -86,16 +83,16 @@ Error joinFailure(const ActivationEnd& end, const CWNetwork& network, bool still
     switch (end.outcome) {
     case ActivationOutcome::refused:
         return end.refusal.failure == RemoteFailure::permissionDenied
-                   ? Error{Texts::tr("The system does not permit this user to join networks")}
+                   ? Error{JoinTexts::tr("The system does not permit this user to join networks")}
                    : end.refusal.error();
     case ActivationOutcome::vanished:
-        return {Texts::tr("NetworkManager ended during the attempt to join")};
+        return {JoinTexts::tr("NetworkManager ended during the attempt to join")};
     case ActivationOutcome::stopped:
-        return {Texts::tr("The attempt to join was stopped")};
+        return {JoinTexts::tr("The attempt to join was stopped")};
     case ActivationOutcome::outOfTime:
         return {end.state >= DeviceState::gettingAddress
-                    ? Texts::tr("The network gave this machine no address in time")
-                    : Texts::tr("Joining the network took too long")};
+                    ? JoinTexts::tr("The network gave this machine no address in time")
+                    : JoinTexts::tr("Joining the network took too long")};
     case ActivationOutcome::activated:
     case ActivationOutcome::failed:
         break;

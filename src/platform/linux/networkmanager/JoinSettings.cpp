@@ -1,6 +1,6 @@
 #include "platform/linux/networkmanager/JoinSettings.h"
 
-#include <QCoreApplication>
+#include "platform/JoinTexts.h"
 
 #include <algorithm>
 #include <array>
@@ -13,11 +13,6 @@ const QString wirelessSection = u"802-11-wireless"_s;
 const QString securitySection = u"802-11-wireless-security"_s;
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
 
 const auto management = u"key-mgmt"_s;
 const auto presharedKey = u"psk"_s;
@@ -102,25 +97,26 @@ Failure faultOf(Kind kind, const QString& password)
         return {};
     }
     if (kind == Kind::enterprise) {
-        return Error{
-            Texts::tr("The network asks for a login of its own kind, which has to be set up in the system's "
-                      "network settings first")};
+        return Error{JoinTexts::tr(
+            "The network asks for a login of its own kind, which has to be set up in the system's "
+            "network settings first")};
     }
     if (password.isEmpty()) {
-        return Error{Texts::tr("The network needs a password")};
+        return Error{JoinTexts::tr("The network needs a password")};
     }
     // The bus carries no such character.
     if (password.contains(QChar::Null)) {
         return Error{
-            Texts::tr("The password is not correct: it holds a character that cannot be part of one")};
+            JoinTexts::tr("The password is not correct: it holds a character that cannot be part of one")};
     }
     if (kind == Kind::wep && !isWepKey(password)) {
-        return Error{Texts::tr("The password is not correct: a WEP key has 5 or 13 characters, or 10 or 26 "
-                               "hexadecimal digits")};
+        return Error{
+            JoinTexts::tr("The password is not correct: a WEP key has 5 or 13 characters, or 10 or 26 "
+                          "hexadecimal digits")};
     }
     if (kind == Kind::personal && !isPresharedKey(password)) {
-        return Error{
-            Texts::tr("The password is not correct: it has 8 to 63 characters, or 64 hexadecimal digits")};
+        return Error{JoinTexts::tr(
+            "The password is not correct: it has 8 to 63 characters, or 64 hexadecimal digits")};
     }
     return {};
 }

@@ -1,6 +1,7 @@
 #include "platform/linux/networkmanager/RemoteError.h"
 
-#include <QCoreApplication>
+#include "platform/JoinTexts.h"
+
 #include <QDBusError>
 
 #include <algorithm>
@@ -11,11 +12,6 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(JoinFailure)
-};
 
 struct NamedFailure
 {
@@ -55,21 +51,21 @@ QString describe(RemoteFailure failure, const QString& message)
 {
     switch (failure) {
     case RemoteFailure::notRunning:
-        return Texts::tr("NetworkManager is not running");
+        return JoinTexts::tr("NetworkManager is not running");
     case RemoteFailure::noAnswer:
-        return Texts::tr("NetworkManager does not answer");
+        return JoinTexts::tr("NetworkManager does not answer");
     case RemoteFailure::permissionDenied:
-        return Texts::tr("NetworkManager does not permit this: %1").arg(message);
+        return JoinTexts::tr("NetworkManager does not permit this: %1").arg(message);
     case RemoteFailure::notAllowed:
-        return Texts::tr("NetworkManager cannot do this now: %1").arg(message);
+        return JoinTexts::tr("NetworkManager cannot do this now: %1").arg(message);
     case RemoteFailure::unknownObject:
-        return Texts::tr("NetworkManager does not know the device: %1").arg(message);
+        return JoinTexts::tr("NetworkManager does not know the device: %1").arg(message);
     case RemoteFailure::wrongAnswer:
-        return Texts::tr("NetworkManager gave an answer of a wrong type: %1").arg(message);
+        return JoinTexts::tr("NetworkManager gave an answer of a wrong type: %1").arg(message);
     case RemoteFailure::other:
         break;
     }
-    return Texts::tr("NetworkManager reports an error: %1").arg(message);
+    return JoinTexts::tr("NetworkManager reports an error: %1").arg(message);
 }
 
 } // namespace
