@@ -139,7 +139,9 @@ void Activation::take(const QDBusPendingCall& answer)
     }
     const auto objects = activationObjects(answer.reply().arguments());
     if (!objects) {
-        m_end.refusal = {RemoteFailure::wrongAnswer, u"NetworkManager gave an answer of a wrong type"_s};
+        // As where Qt finds the answer to be of another type than it was asked for.
+        m_end.refusal =
+            remoteError(QDBusError(QDBusError::InvalidSignature, u"(%1)"_s.arg(answer.reply().signature())));
         finish(ActivationOutcome::refused);
         return;
     }

@@ -3,6 +3,7 @@
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
 #include "support/MainLoop.h"
+#include "support/Printing.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
@@ -122,7 +123,10 @@ TEST_F(ActivationTest, tellsRefusedFromVanished)
     EXPECT_EQ(end.outcome, refused);
     EXPECT_EQ(end.refusal.failure, RemoteFailure::permissionDenied);
     m_fake->on(u"AddAndActivateConnection2"_s, [](const QDBusMessage& call) { return call.createReply(); });
-    EXPECT_EQ(activateNew().refusal.failure, RemoteFailure::wrongAnswer);
+    const auto unnamed = activateNew().refusal;
+    EXPECT_EQ(unnamed.failure, RemoteFailure::wrongAnswer);
+    EXPECT_EQ(unnamed.description, u"NetworkManager gave an answer of a wrong type: ()"_s)
+        << "the text that is translated";
 
     m_fake.emplace(m_bus.address());
     m_fake->setActivation({{40, 0}}, 0);
