@@ -1,6 +1,7 @@
 #include "export/NetworkCsv.h"
 
 #include "export/Csv.h"
+#include "export/WithUnit.h"
 
 namespace aerolith {
 
@@ -8,21 +9,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString withUnit(qint64 number, const QString& unit)
-{
-    return QString::number(number) + u' ' + unit;
-}
-
 void addProperties(CsvText& csv, const WiFiNetwork& network, const DateTexts& texts)
 {
     csv.addRow({u"Field", u"Value"});
     csv.addRow({u"SSID", network.ssid});
     csv.addRow({u"BSSID", network.bssid});
-    csv.addRow({u"RSSI", withUnit(network.rssi, u"dBm"_s)});
-    csv.addRow({u"Noise", withUnit(network.noise, u"dBm"_s)});
-    csv.addRow({u"SNR", withUnit(network.rssi - network.noise, u"dB"_s)});
+    csv.addRow({u"RSSI", withUnit(network.rssi, "dBm"_L1)});
+    csv.addRow({u"Noise", withUnit(network.noise, "dBm"_L1)});
+    csv.addRow({u"SNR", withUnit(network.rssi - network.noise, "dB"_L1)});
     csv.addRow({u"Channel", DecimalField(network.channel).text()});
-    csv.addRow({u"Channel Width", withUnit(network.channelWidth, u"MHz"_s)});
+    csv.addRow({u"Channel Width", withUnit(network.channelWidth, "MHz"_L1)});
     csv.addRow({u"Band", network.channelBand});
     csv.addRow({u"Security", network.security});
     csv.addRow({u"Network Type", network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s});

@@ -1,5 +1,6 @@
 #include "ui/detail/NetworkDetails.h"
 
+#include "export/WithUnit.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
 
@@ -17,11 +18,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(NetworkDetails)
 };
-
-QString withUnit(qint64 number, QLatin1StringView unit)
-{
-    return QString::number(number) + u' ' + unit;
-}
 
 NetworkDetailList signalOverview(const WiFiNetwork& network)
 {
