@@ -27,4 +27,13 @@ StatusBarFrame::StatusBarFrame(QWidget* parent) : QWidget(parent), m_row(new QHB
     m_row->setContentsMargins(sidePadding, 0, sidePadding, 0);
 }
 
+SymbolButton* StatusBarFrame::makeButton(const QString& objectName, const QString& symbol,
+                                         const QString& purpose)
+{
+    auto* button = new SymbolButton(symbol, purpose);
+    button->setObjectName(objectName);
+    button->setToolTip(purpose);
+    return button;
+}
+
 } // namespace aerolith

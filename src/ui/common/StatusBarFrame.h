@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/common/SymbolButton.h"
+
 #include <QHBoxLayout>
 #include <QWidget>
 
@@ -14,6 +16,10 @@ public:
 protected:
     /// Where the items stand, vertically centred.
     [[nodiscard]] QHBoxLayout& row() { return *m_row; }
+
+    /// For the row; the purpose is its name and its tool tip.
+    [[nodiscard]] static SymbolButton* makeButton(const QString& objectName, const QString& symbol,
+                                                  const QString& purpose);
 
 private:
     QHBoxLayout* m_row;

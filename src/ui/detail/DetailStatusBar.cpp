@@ -19,18 +19,14 @@ DetailStatusBar::DetailStatusBar(WiFiScanner& scanner, const DetailSurroundings&
     : StatusBarFrame(parent)
     , m_scanner(scanner)
     , m_surroundings(surroundings)
-    , m_export(new SymbolButton(u"square.and.arrow.up"_s, tr("Export network data")))
+    , m_export(makeButton(u"exportDetails"_s, u"square.and.arrow.up"_s, tr("Export network data")))
     , m_lastSeen(new SecondaryLabel(lastSeenSize))
-    , m_refresh(new SymbolButton(u"arrow.clockwise"_s, tr("Refresh network data")))
+    , m_refresh(makeButton(u"refresh"_s, u"arrow.clockwise"_s, tr("Refresh network data")))
     , m_spinner(new Spinner)
     , m_publish([this] { showState(); })
 {
-    m_export->setObjectName(u"exportDetails"_s);
     m_export->setTitle(tr("Export network data"));
-    m_export->setToolTip(tr("Export network data"));
     m_lastSeen->setObjectName(u"lastSeen"_s);
-    m_refresh->setObjectName(u"refresh"_s);
-    m_refresh->setToolTip(tr("Refresh network data"));
     m_spinner->setObjectName(u"scanning"_s);
     m_spinner->setAccessibleName(tr("Scanning"));
     layOut();

@@ -5,7 +5,6 @@
 #include "ui/common/SecondaryLabel.h"
 #include "ui/common/Spinner.h"
 #include "ui/common/StatusBarFrame.h"
-#include "ui/common/SymbolButton.h"
 #include "ui/detail/DetailSurroundings.h"
 
 #include <optional>

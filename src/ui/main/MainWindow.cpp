@@ -23,7 +23,7 @@ QWidget* makeSeparator()
     return separator;
 }
 
-SymbolButton* makeButton(const QString& objectName, const QString& symbol, const QString& name)
+SymbolButton* makeToolButton(const QString& objectName, const QString& symbol, const QString& name)
 {
     auto* button = new SymbolButton(symbol, name);
     button->setObjectName(objectName);
@@ -44,9 +44,9 @@ MainWindow::MainWindow(WiFiScanner& scanner, const WindowSurroundings& surroundi
     : m_scanner(scanner)
     , m_surroundings(surroundings)
     , m_content(new ContentView(scanner, surroundings))
-    , m_sidebarButton(makeButton(u"toggleSidebar"_s, u"sidebar.left"_s, {}))
-    , m_settingsButton(makeButton(u"settings"_s, u"gear"_s, tr("Settings")))
-    , m_infoButton(makeButton(u"networkInfo"_s, u"info.circle"_s, tr("Wi-Fi interface information")))
+    , m_sidebarButton(makeToolButton(u"toggleSidebar"_s, u"sidebar.left"_s, {}))
+    , m_settingsButton(makeToolButton(u"settings"_s, u"gear"_s, tr("Settings")))
+    , m_infoButton(makeToolButton(u"networkInfo"_s, u"info.circle"_s, tr("Wi-Fi interface information")))
 {
     setObjectName(u"mainWindow"_s);
     m_content->setObjectName(u"content"_s);

@@ -1,7 +1,6 @@
 #include "ui/main/SidebarStatusBar.h"
 
 #include "export/NetworkCsv.h"
-#include "ui/common/SymbolButton.h"
 #include "ui/common/SymbolView.h"
 
 #include <QComboBox>
@@ -18,14 +17,6 @@ namespace {
 constexpr int itemSpacing = 12;
 constexpr int sortMenuWidth = 180;
 constexpr int sortSymbolSize = 14;
-
-SymbolButton* makeButton(const QString& objectName, const QString& symbol, const QString& purpose)
-{
-    auto* button = new SymbolButton(symbol, purpose);
-    button->setObjectName(objectName);
-    button->setToolTip(purpose);
-    return button;
-}
 
 } // namespace
 
