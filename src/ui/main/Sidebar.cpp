@@ -2,6 +2,7 @@
 
 #include "model/HiddenList.h"
 #include "ui/common/Divider.h"
+#include "ui/common/SwitchHeader.h"
 #include "ui/common/Theme.h"
 #include "ui/main/SidebarStatusBar.h"
 
@@ -13,9 +14,6 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int headerSidePadding = 12;
-constexpr int headerPadding = 8;
 
 QLabel* makeCount()
 {
@@ -49,7 +47,7 @@ Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExp
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
-    column->addLayout(makeHeader());
+    column->addWidget(new SwitchHeader(m_filter));
     column->addWidget(new Divider(Qt::Horizontal));
     column->addWidget(m_count);
     column->addWidget(m_list);
@@ -70,19 +68,6 @@ Sidebar::Sidebar(WiFiScanner& scanner, const UserDefaults& userDefaults, FileExp
     showFilter();
     showNetworks();
     showSelected();
-}
-
-QLayout* Sidebar::makeHeader()
-{
-    auto* header = new QHBoxLayout;
-    header->setContentsMargins(0, headerPadding - Switch::margin, 0, headerPadding - Switch::margin);
-    header->setSpacing(0);
-    header->addSpacing(headerSidePadding);
-    header->addStretch();
-    header->addWidget(m_filter);
-    // Unlike margins, it changes sides with the direction of the language.
-    header->addSpacing(headerSidePadding - Switch::margin);
-    return header;
 }
 
 void Sidebar::showFilter()

@@ -24,7 +24,6 @@ public:
     void focusList() { m_list->setFocus(); }
 
 private:
-    [[nodiscard]] QLayout* makeHeader();
     void showNetworks();
     void showSelected();
     void showFilter();

@@ -1,6 +1,7 @@
 #include "ui/menubar/StatusMenuView.h"
 
 #include "ui/common/Divider.h"
+#include "ui/common/SwitchHeader.h"
 #include "ui/common/SymbolButton.h"
 #include "ui/common/Theme.h"
 #include "ui/menubar/WaitState.h"
@@ -20,10 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QMargins headerPadding{12, 8 - Switch::margin, 12 - Switch::margin, 8 - Switch::margin};
 constexpr QMargins bottomPadding{12, 8, 12, 8};
-constexpr int headerSpacing = 8;
-constexpr int spinnerPadding = 12;
+constexpr int spinnerDistance = 20;
 constexpr int bottomSpacing = 16;
 constexpr int textSize = 13;
 constexpr int largestListHeight = 300;
@@ -100,16 +99,11 @@ StatusMenuView::StatusMenuView(WiFiScanner& scanner, StatusMenuController& statu
 
 QWidget* StatusMenuView::makeHeader()
 {
-    auto* bar = new QWidget;
-    auto* header = new QHBoxLayout(bar);
-    header->setContentsMargins(headerPadding);
-    header->setSpacing(headerSpacing);
-    header->addWidget(makeTitle());
-    header->addSpacing(spinnerPadding);
-    header->addWidget(m_spinner);
-    header->addStretch();
-    header->addWidget(m_power);
-    return bar;
+    auto* header = new SwitchHeader(m_power);
+    header->leading().setSpacing(spinnerDistance);
+    header->leading().addWidget(makeTitle());
+    header->leading().addWidget(m_spinner);
+    return header;
 }
 
 QWidget* StatusMenuView::makeBottomBar()

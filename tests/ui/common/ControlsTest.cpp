@@ -1,9 +1,12 @@
 #include "ui/common/Spinner.h"
 #include "ui/common/Switch.h"
+#include "ui/common/SwitchHeader.h"
 #include "ui/common/SymbolButton.h"
 #include "ui/common/Theme.h"
 
 #include <QImage>
+#include <QLabel>
+#include <QStyle>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -89,6 +92,24 @@ TEST(Switch, IsThrownByMouseAndKeyAnywhereOnIt)
     EXPECT_NE(control.grab().toImage(), off);
     QTest::keyClick(&control, Qt::Key_Space);
     EXPECT_FALSE(control.isChecked());
+}
+
+TEST(SwitchHeader, IsAsFarFromBothEdgesInEitherDirection)
+{
+    auto* control = new Switch;
+    SwitchHeader header(control);
+    auto* title = new QLabel(u"Wi-Fi"_s);
+    header.leading().addWidget(title);
+    header.resize(300, header.sizeHint().height());
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        header.setLayoutDirection(direction);
+        header.layout()->activate();
+        const auto inReadingOrder = [&](const QWidget* part) {
+            return QStyle::visualRect(direction, header.rect(), part->geometry());
+        };
+        EXPECT_EQ(inReadingOrder(title).left(), 12) << direction;
+        EXPECT_EQ(header.width() - 1 - inReadingOrder(control).right(), 12 - Switch::margin) << direction;
+    }
 }
 
 } // namespace aerolith

@@ -1,0 +1,27 @@
+#include "ui/common/SwitchHeader.h"
+
+#include "ui/common/Switch.h"
+
+namespace aerolith {
+
+namespace {
+
+constexpr int sidePadding = 12;
+constexpr int padding = 8;
+
+} // namespace
+
+SwitchHeader::SwitchHeader(Switch* control, QWidget* parent) : QWidget(parent), m_leading(new QHBoxLayout)
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, padding - Switch::margin, 0, padding - Switch::margin);
+    row->setSpacing(0);
+    // Unlike margins, these change sides with the direction of the language.
+    row->addSpacing(sidePadding);
+    row->addLayout(m_leading);
+    row->addStretch();
+    row->addWidget(control);
+    row->addSpacing(sidePadding - Switch::margin);
+}
+
+} // namespace aerolith
