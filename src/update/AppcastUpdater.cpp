@@ -1,5 +1,7 @@
 #include "update/AppcastUpdater.h"
 
+#include "update/UpdateTexts.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -13,11 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
-};
-
 /// Ends with the object that the connection is made in.
 class SignalObservation : public Observation
 {
@@ -30,7 +27,7 @@ private:
 
 Error unreadable(const Error& error)
 {
-    return {Texts::tr("The update feed cannot be read: %1").arg(error.description)};
+    return {UpdateTexts::tr("The update feed cannot be read: %1").arg(error.description)};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "update/DownloadFile.h"
 
-#include <QCoreApplication>
+#include "update/UpdateTexts.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -11,11 +12,6 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
-};
 
 /// "a.tar.gz" ends in ".tar.gz", "a-1.2.deb" in ".deb".
 qsizetype endingOf(const QString& name)
@@ -63,7 +59,7 @@ DownloadFile::DownloadFile(const QString& folder)
 Failure DownloadFile::open()
 {
     if (!QDir().mkpath(m_folder)) {
-        return Error{Texts::tr("The folder %1 cannot be made").arg(m_folder)};
+        return Error{UpdateTexts::tr("The folder %1 cannot be made").arg(m_folder)};
     }
     return m_file.open() ? Failure() : cannotSave();
 }
@@ -98,7 +94,7 @@ Result<QString> DownloadFile::keep(const QString& name)
 
 Error DownloadFile::cannotSave() const
 {
-    return Error{Texts::tr("Nothing can be saved in %1: %2").arg(m_folder, m_file.errorString())};
+    return Error{UpdateTexts::tr("Nothing can be saved in %1: %2").arg(m_folder, m_file.errorString())};
 }
 
 } // namespace aerolith

@@ -1,8 +1,7 @@
 #include "update/HttpsTransfer.h"
 
 #include "update/HttpsAddress.h"
-
-#include <QCoreApplication>
+#include "update/UpdateTexts.h"
 
 #include <utility>
 
@@ -11,11 +10,6 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
-};
 
 constexpr int mostRedirects = 5;
 /// Bytes that wait to be received; the server is slowed down beyond.
@@ -70,12 +64,12 @@ HttpsTransfer::HttpsTransfer(QNetworkAccessManager& manager, HttpsSettings setti
 {
     m_silence.setSingleShot(true);
     m_silence.callOnTimeout(this, [this] {
-        end(Error{Texts::tr("%1 has been silent for %2 seconds")
+        end(Error{UpdateTexts::tr("%1 has been silent for %2 seconds")
                       .arg(host(), inSeconds(m_settings.longestSilence))});
     });
     m_timeLimit.setSingleShot(true);
     m_timeLimit.callOnTimeout(this, [this] {
-        end(Error{Texts::tr("%1 was not done after %2 seconds")
+        end(Error{UpdateTexts::tr("%1 was not done after %2 seconds")
                       .arg(host(), inSeconds(m_timeLimit.intervalAsDuration()))});
     });
     if (timeLimit) {
@@ -102,7 +96,7 @@ void HttpsTransfer::handleStatus()
     if (isRedirect(*m_reply)) {
         redirect();
     } else if (const int status = statusOf(*m_reply); status != statusOk) {
-        end(Error{Texts::tr("%1 answered with the HTTP status %2").arg(host()).arg(status)});
+        end(Error{UpdateTexts::tr("%1 answered with the HTTP status %2").arg(host()).arg(status)});
     }
 }
 
@@ -112,10 +106,10 @@ void HttpsTransfer::redirect()
     const auto target = redirectTarget(m_reply->url(), location);
     if (!target) {
         constexpr qsizetype longest = 200;
-        end(Error{Texts::tr("%1 redirects to an address that is not https: %2")
+        end(Error{UpdateTexts::tr("%1 redirects to an address that is not https: %2")
                       .arg(host(), QString::fromUtf8(location).left(longest))});
     } else if (++m_redirects > mostRedirects) {
-        end(Error{Texts::tr("%1 redirects more than %n times", nullptr, mostRedirects).arg(host())});
+        end(Error{UpdateTexts::tr("%1 redirects more than %n times", nullptr, mostRedirects).arg(host())});
     } else {
         request(*target);
     }
@@ -148,13 +142,13 @@ Failure HttpsTransfer::receive()
 QString HttpsTransfer::explained(QNetworkReply::NetworkError error) const
 {
     if (error == QNetworkReply::SslHandshakeFailedError) {
-        return Texts::tr("There is no secure connection to %1: %2").arg(host(), m_reply->errorString());
+        return UpdateTexts::tr("There is no secure connection to %1: %2").arg(host(), m_reply->errorString());
     }
     if (m_received > 0) {
-        return Texts::tr("The connection to %1 ended after %2 bytes: %3")
+        return UpdateTexts::tr("The connection to %1 ended after %2 bytes: %3")
             .arg(host(), QString::number(m_received), m_reply->errorString());
     }
-    return Texts::tr("%1 cannot be reached: %2").arg(host(), m_reply->errorString());
+    return UpdateTexts::tr("%1 cannot be reached: %2").arg(host(), m_reply->errorString());
 }
 
 void HttpsTransfer::end(const Failure& failure)

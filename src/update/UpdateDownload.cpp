@@ -1,19 +1,10 @@
 #include "update/UpdateDownload.h"
 
-#include <QCoreApplication>
+#include "update/UpdateTexts.h"
 
 #include <utility>
 
 namespace aerolith {
-
-namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(UpdateFailure)
-};
-
-} // namespace
 
 UpdateDownload::UpdateDownload(QNetworkAccessManager& manager, const HttpsSettings& settings,
                                AppcastItem item, PublicKey key, const QString& folder, Observer observer)
@@ -37,7 +28,7 @@ Failure UpdateDownload::receive(const QByteArray& bytes)
     m_received += bytes.size();
     if (m_received > m_item.length) {
         return Error{
-            Texts::tr("The file is longer than the %1 bytes that it should have").arg(m_item.length)};
+            UpdateTexts::tr("The file is longer than the %1 bytes that it should have").arg(m_item.length)};
     }
     if (Failure failure = m_file.write(bytes)) {
         return failure;
@@ -59,13 +50,13 @@ Result<QString> UpdateDownload::keep(const Failure& transferred)
         return *transferred;
     }
     if (m_received != m_item.length) {
-        return Error{Texts::tr("The file has %1 bytes in place of the %2 that it should have")
+        return Error{UpdateTexts::tr("The file has %1 bytes in place of the %2 that it should have")
                          .arg(m_received)
                          .arg(m_item.length)};
     }
     if (!m_file.isSignedBy(m_key, m_item.signature)) {
         return Error{
-            Texts::tr("The file's signature is wrong: it does not come from the makers of Aerolith")};
+            UpdateTexts::tr("The file's signature is wrong: it does not come from the makers of Aerolith")};
     }
     return m_file.keep(downloadName(m_item.url));
 }
