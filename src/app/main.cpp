@@ -11,6 +11,7 @@
 #include "ui/menubar/AccessiblePopover.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 
 #include <csignal>
 #include <cstdio>
@@ -37,6 +38,8 @@ int run(int argc, char** argv, const std::optional<Simulation>& simulate)
     std::optional<DisplayCheck> displayCheck(std::in_place);
     std::optional<FontConfiguration> fonts(std::in_place);
     const QApplication application(argc, argv);
+    // The application drops the configuration at its end, which may come early.
+    const auto awaitFonts = qScopeGuard([&fonts] { fonts.reset(); });
     displayCheck.reset();
     QApplication::setStyle(new ProgramStyle);
     const Translations translations(messageLanguages());
