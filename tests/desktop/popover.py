@@ -8,6 +8,7 @@ from gi.repository import Atspi
 
 from accessible import PATIENCE, Failure, click_at, wait_for
 
+BAR = 24  # the height of the tray
 ICON = (int(os.environ.get("DESKTOP_SCREEN", "1280x900").split("x")[0]) - 12, 12)
 NAME = "Aerolith"
 CONNECT = "Connect to \u2068{}\u2069, "
@@ -17,7 +18,7 @@ JOINED = "\u2068{}\u2069, joined"
 @contextlib.contextmanager
 def tray():
     """In the upper right corner, as high as an icon."""
-    command = ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24"]
+    command = ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", str(BAR)]
     with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as process:
         try:
             yield
@@ -32,6 +33,10 @@ class Popover:
     @property
     def window(self):
         return next(iter(self.application.all("dialog", NAME)), None)
+
+    def is_under_icon(self):
+        box = self.window.accessible.get_extents(Atspi.CoordType.SCREEN)
+        return abs(box.y - BAR) <= 2 and box.x <= ICON[0] < box.x + box.width
 
     def dialogs(self):
         """Those beside the popover itself."""

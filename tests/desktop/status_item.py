@@ -33,6 +33,7 @@ def main(path, ssid, password, results, *arguments):
         popover = Popover(application)
         with tray():
             popover.open()
+            check("the popover is under its icon", popover.is_under_icon(), True)
             key("Escape")
             popover.closed()
             print("ok: the icon opens the popover, Escape closes it")
