@@ -56,7 +56,7 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, co
                            const std::optional<QByteArray>& ssid, const Heard& heard)
 {
     const BootTime begun = start.begun;
-    const auto before = service.lastScan();
+    const auto before = start.lastScan;
     const auto runningSince =
         std::max(earliestStart(begun, before), start.underWaySince.value_or(BootTime::min()));
     const bool isListed = ssid && heard(BootTime::min());

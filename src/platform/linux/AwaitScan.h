@@ -22,6 +22,9 @@ struct WaitStart
     nl80211::BootTime begun;
     /// The earliest that the scan can have begun which was under way then; absent where that is not known.
     std::optional<nl80211::BootTime> underWaySince = {};
+    /// The newest scan that the service knew of, read before the events were made: of a scan whose end they
+    /// tell, it must not know yet.
+    std::optional<nl80211::BootTime> lastScan = {};
 };
 
 /// Asks for a scan and waits for its end: 15 seconds for its start, as the service may put it off, and 30 in

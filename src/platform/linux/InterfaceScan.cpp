@@ -115,15 +115,17 @@ Result<QList<CWNetwork>> scanInterface(LinuxWireless& wireless, const QString& n
     if (auto obstacle = chosen.value().service->obstacle()) {
         return *obstacle;
     }
-    const auto begun = nl80211::bootTimeNow();
-    const auto underWaySince = wireless.scansUnderWay.since(info.value().index);
+    const auto lastScan = chosen.value().service->lastScan();
+    const WaitStart start{.begun = nl80211::bootTimeNow(),
+                          .underWaySince = wireless.scansUnderWay.since(info.value().index),
+                          .lastScan = lastScan};
     const auto events = eventsFor(chosen.value(), wireless, info.value());
     if (!events.ok()) {
         return events.error();
     }
     StoppableScanEvents stoppable(events.value(), wireless.stopped);
     const auto heard = [&](nl80211::BootTime since) { return wireless.isHeard(name, ssid, since); };
-    const auto heardSince = awaitScan(*chosen.value().service, stoppable, {begun, underWaySince}, ssid, heard);
+    const auto heardSince = awaitScan(*chosen.value().service, stoppable, start, ssid, heard);
     if (!heardSince.ok()) {
         return heardSince.error();
     }

@@ -90,7 +90,7 @@ protected:
     std::optional<BootTime> await(Script script, const std::optional<QByteArray>& ssid = {})
     {
         ScriptedEvents events(std::move(script));
-        const auto result = awaitScan(m_service, events, {begun, m_underWaySince}, ssid,
+        const auto result = awaitScan(m_service, events, {begun, m_underWaySince, m_service.lastScan()}, ssid,
                                       [this](BootTime since) { return m_heard && *m_heard >= since; });
         m_error = result.ok() ? QString() : result.error().description;
         return result.ok() ? std::optional(result.value()) : std::nullopt;
@@ -226,7 +226,7 @@ TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
 
 TEST_F(AwaitScanTest, withoutEventsANewLastScanIsTheSign)
 {
-    m_service.lastScans = {begun - 5s, begun - 5s, begun - 5s, begun + 2s};
+    m_service.lastScans = {begun - 5s, begun - 5s, begun + 2s};
     LastScanEvents events(m_service, 0ms);
     EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).value(), begun);
     EXPECT_EQ(events.wait({}).value(), std::nullopt) << "nothing new before the deadline";

@@ -106,10 +106,14 @@ Failure FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)
     return {};
 }
 
-Result<std::shared_ptr<nl80211::ScanEvents>> FakeKernel::scanEvents(std::optional<std::uint32_t>)
+Result<std::shared_ptr<nl80211::ScanEvents>>
+FakeKernel::scanEvents(std::optional<std::uint32_t> interfaceIndex)
 {
     if (!tellsEvents) {
         return Error{u"no events"_s};
+    }
+    if (interfaceIndex && whenListenedTo) {
+        whenListenedTo();
     }
     return std::shared_ptr<nl80211::ScanEvents>(std::make_shared<Events>(*this));
 }

@@ -4,6 +4,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <mutex>
 
 namespace aerolith {
@@ -41,6 +42,8 @@ public:
     QList<nl80211::ScanStage> triggeredEvents;
     bool tellsEvents = true;
     std::optional<Error> eventsFailure;
+    /// As soon as somebody listens to the events of one interface.
+    std::function<void()> whenListenedTo;
     /// Of the events, which come without it.
     std::optional<int> descriptor;
 

@@ -3,6 +3,7 @@
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
+#include "platform/linux/nl80211/BootTime.h"
 #include "support/MainLoop.h"
 #include "support/RecordingLog.h"
 
@@ -158,6 +159,12 @@ TEST_F(LinuxWiFiTest, aScanThatSomebodyElseHasRunningAnswersToo)
     });
     m_kernel->hear(u"02:00:00:00:00:03"_s, "heard before the request", 2s);
     EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:03"_s));
+
+    m_kernel->whenListenedTo = [this] {
+        const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(nl80211::bootTimeNow());
+        m_fake->setProperty(u"Wireless.LastScan"_s, qlonglong{now.count()});
+    };
+    EXPECT_THAT(scan(), ElementsAre(u"02:00:00:00:00:03"_s)) << "NetworkManager knows of its end already";
 }
 
 TEST_F(LinuxWiFiTest, withoutEventsNetworkManagerTellsTheEnd)
