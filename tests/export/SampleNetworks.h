@@ -27,8 +27,10 @@ inline WiFiNetwork harborLoft()
                                   QStringLiteral("802.11ac")};
     network.timestamp = sampleTime;
     for (const qint64 step : {2, 1, 0}) {
-        const SignalHistory sample{
-            .id = {}, .timestamp = sampleTime - std::chrono::seconds(10 * step), .rssi = -58 - step, .noise = -90};
+        const SignalHistory sample{.id = {},
+                                   .timestamp = sampleTime - std::chrono::seconds(10 * step),
+                                   .rssi = -58 - step,
+                                   .noise = -90};
         network.signalHistory = network.signalHistory.appended(sample, 3);
     }
     return network;

@@ -9,8 +9,8 @@
 
 namespace aerolith {
 
-/// Between what most of the picture shows, the ground, and what stands out from it most, the strokes of a text. Strokes
-/// have their full colour only where they are some pixels wide: the picture is taken enlarged.
+/// Between what most of the picture shows, the ground, and what stands out from it most, the strokes of a
+/// text. Strokes have their full colour only where they are some pixels wide: the picture is taken enlarged.
 [[nodiscard]] inline double contrastWithin(const QImage& picture)
 {
     QHash<QRgb, int> counts;

@@ -13,8 +13,8 @@ namespace aerolith {
 class LinuxWiFiClient : public CWWiFiClient
 {
 public:
-    /// Main thread, as for the destructor. `log` outlives this object and the interfaces it hands out. `bus` is where NetworkManager is, and
-    /// `systemFiles` where sysfs is mounted.
+    /// Main thread, as for the destructor. `log` outlives this object and the interfaces it hands out. `bus`
+    /// is where NetworkManager is, and `systemFiles` where sysfs is mounted.
     explicit LinuxWiFiClient(Log& log, BusAddress bus = {},
                              std::unique_ptr<nl80211::Nl80211> kernel = nl80211::makeNl80211(),
                              QString systemFiles = QStringLiteral("/sys"));

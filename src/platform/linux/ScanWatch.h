@@ -9,9 +9,9 @@
 
 namespace aerolith {
 
-/// Listens to the scans of all interfaces between ours too, so that a cycle that begins within somebody else's
-/// knows since when that one hears access points. Costs a turn of the event loop for each scan's beginning and
-/// end, and nothing else. Main thread.
+/// Listens to the scans of all interfaces between ours too, so that a cycle that begins within somebody
+/// else's knows since when that one hears access points. Costs a turn of the event loop for each scan's
+/// beginning and end, and nothing else. Main thread.
 class ScanWatch
 {
 public:

@@ -5,7 +5,6 @@
 #include "platform/Queues.h"
 #include "platform/simulated/SimulatedInterface.h"
 
-
 namespace aerolith {
 
 /// The authorization of a scenario, with a user who answers on a later turn of the main queue. Main thread

@@ -16,8 +16,8 @@
 
 namespace aerolith::nl80211 {
 
-/// Scans of one interface, or of all, as they begin and end, from the moment the object was made: make it before asking
-/// for the scan to be waited for. One thread at a time.
+/// Scans of one interface, or of all, as they begin and end, from the moment the object was made: make it
+/// before asking for the scan to be waited for. One thread at a time.
 class ScanEvents
 {
 public:

@@ -157,8 +157,8 @@ TEST_F(ScanPermissionTest, asksNothingBeforeTheFirstAnswer)
         std::latch answers(1);
         m_fake->on(u"GetPermissions"_s, [&](const QDBusMessage& call) {
             answers.wait();
-            return call.createReply(
-                QVariant::fromValue(PermissionMap{{u"org.freedesktop.NetworkManager.wifi.scan"_s, permission}}));
+            return call.createReply(QVariant::fromValue(
+                PermissionMap{{u"org.freedesktop.NetworkManager.wifi.scan"_s, permission}}));
         });
         start();
         EXPECT_EQ(m_permission->state(), State::undecided) << "no answer in time";
