@@ -12,7 +12,7 @@ from accessible import Program, check, key, run, wait_for
 from popover import JOINED, Popover, tray
 
 REFUSED = "Location access is required\nto scan for networks.\n\nPlease enable it\nin System Settings."
-TRIES = 2  # an access point at times loses a handshake, which is no fault of the station
+TRIES = 3  # an access point at times loses a handshake, which is no fault of the station
 
 
 def network_manager(*arguments):

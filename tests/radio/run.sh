@@ -19,7 +19,7 @@ require_tools() {
     local tool
     [ "$(uname -m)" = x86_64 ] || skip "the emulated machine is made for x86_64"
     PATH=$PATH:/usr/sbin:/sbin:/usr/lib/polkit-1:/lib/systemd
-    for tool in qemu-system-x86_64 busybox cpio depmod modprobe apt-get dpkg setpriv hostapd hostapd_cli \
+    for tool in qemu-system-x86_64 busybox cpio depmod modprobe apt-get dpkg setpriv chrt hostapd hostapd_cli \
         wpa_supplicant NetworkManager nmcli iw rfkill ip udevadm systemd-udevd dbus-daemon busctl polkitd \
         dbus-run-session dbus-monitor Xvfb openbox trayer xdotool; do
         command -v "$tool" >/dev/null || skip "$tool is not installed"

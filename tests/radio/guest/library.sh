@@ -135,14 +135,16 @@ start_medium() {
     wait_for 90 grep -q ready /run/medium.log || give_up "no medium: $(cat /run/medium.log)"
 }
 
-# start_access_points: every one of the plan, each radio at its signal strength and with its address.
+# start_access_points: every one of the plan, each radio at its signal strength and with its address. An access point is
+# a machine of its own, which does not wait for the station's programs: hostapd goes before them. Otherwise stations ask
+# again before they are answered, and OWE, which makes a new key for each request, never ends.
 start_access_points() {
     local number file files
     set_signals
     for number in "${!ADDRESSES[@]}"; do among_radios ip link set "wlan$number" address "${ADDRESSES[$number]}"; done
     # In the order of their numbers: hostapd listens to its neighbours before it uses 40 MHz.
     mapfile -t files < <(printf '%s\n' /out/plan/wlan*.conf | sort -V)
-    among_radios hostapd -B -f /run/hostapd.log "${files[@]}" ||
+    among_radios chrt --fifo 50 hostapd -B -f /run/hostapd.log "${files[@]}" ||
         give_up "hostapd has failed: $(tail -n 5 /run/hostapd.log)"
     say "hostapd has started"
     for file in "${files[@]}"; do

@@ -36,9 +36,14 @@ class Step:
         self.name, self.folder = name, results / name
         self.begun, self.ended = (float(self.text(mark)) for mark in ("begun", "ended"))
         self.status = int(self.text("status"))
-        self.message = (self.text("stderr").strip().splitlines() or [""])[-1]
+        self.message = self._last_word()
         self.listed = iw_dump.parse(self.text("iw.txt"))
         self.entries = iw_dump.sightings(self.listed)
+
+    def _last_word(self) -> str:
+        """Of the program or script: what its desktop session says when it is taken down comes after it."""
+        lines = self.text("stderr").strip().splitlines() or [""]
+        return next((line for line in reversed(lines) if line.startswith("failed: ")), lines[-1])
 
     def text(self, name: str) -> str:
         return (self.folder / name).read_text(encoding="utf-8", errors="replace")
