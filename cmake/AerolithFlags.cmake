@@ -5,6 +5,11 @@ target_compile_definitions(aerolith_warnings INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 
+# Each folder is compiled as one file, in a sixth of the time. GCC then takes a test's own fixture for a header's.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    target_compile_options(aerolith_warnings INTERFACE -Wno-subobject-linkage)
+endif()
+
 # What ships parses bytes from the air: it is hardened, and the same sources give the same bytes in any folder.
 add_compile_options(
     "$<$<CONFIG:Release>:-fstack-protector-strong;-D_FORTIFY_SOURCE=2;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")

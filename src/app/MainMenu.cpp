@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct MainMenuTexts
 {
     Q_DECLARE_TR_FUNCTIONS(MainMenu)
 };
@@ -23,19 +23,20 @@ struct Texts
 
 void addMainMenu(MainWindow& window, const MenuTargets& targets)
 {
-    QMenu* application = window.menuBar()->addMenu(Texts::tr("&Aerolith"));
-    application->addAction(Texts::tr("&About Aerolith"), &window, [&window] { showAbout(window); });
+    QMenu* application = window.menuBar()->addMenu(MainMenuTexts::tr("&Aerolith"));
+    application->addAction(MainMenuTexts::tr("&About Aerolith"), &window, [&window] { showAbout(window); });
     application->addSeparator();
     application->addAction(new CheckForUpdatesView(targets.updater, application));
     application->addSeparator();
-    QAction* quit = application->addAction(Texts::tr("&Quit"), &window, [] { QApplication::exit(0); });
+    QAction* quit =
+        application->addAction(MainMenuTexts::tr("&Quit"), &window, [] { QApplication::exit(0); });
     quit->setShortcut(QKeySequence::Quit);
 
-    QMenu* view = window.menuBar()->addMenu(Texts::tr("&View"));
-    view->addAction(Texts::tr("Toggle &Sidebar"), Qt::Key_F9, &window, &MainWindow::toggleSidebar);
+    QMenu* view = window.menuBar()->addMenu(MainMenuTexts::tr("&View"));
+    view->addAction(MainMenuTexts::tr("Toggle &Sidebar"), Qt::Key_F9, &window, &MainWindow::toggleSidebar);
 
-    QMenu* help = window.menuBar()->addMenu(Texts::tr("&Help"));
-    help->addAction(Texts::tr("Contact &Support"), &window,
+    QMenu* help = window.menuBar()->addMenu(MainMenuTexts::tr("&Help"));
+    help->addAction(MainMenuTexts::tr("Contact &Support"), &window,
                     [targets] { contactSupport(targets.workspace, targets.log); });
 }
 
@@ -43,10 +44,10 @@ void showAbout(QWidget& window)
 {
     // All in one text: a message box breaks the lines of an informative text anew, to be as narrow as it can.
     const QString text =
-        Texts::tr("Aerolith %1").arg(QApplication::applicationVersion()) + u"\n\n"_s +
-        Texts::tr("Wi-Fi survey for the Linux desktop.\nFree software under the MIT License.");
-    auto* about =
-        new QMessageBox(QMessageBox::NoIcon, Texts::tr("About Aerolith"), text, QMessageBox::Close, &window);
+        MainMenuTexts::tr("Aerolith %1").arg(QApplication::applicationVersion()) + u"\n\n"_s +
+        MainMenuTexts::tr("Wi-Fi survey for the Linux desktop.\nFree software under the MIT License.");
+    auto* about = new QMessageBox(QMessageBox::NoIcon, MainMenuTexts::tr("About Aerolith"), text,
+                                  QMessageBox::Close, &window);
     about->setObjectName(u"about"_s);
     about->setTextFormat(Qt::PlainText);
     about->setAttribute(Qt::WA_DeleteOnClose);

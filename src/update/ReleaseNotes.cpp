@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longest = 20'000;
+constexpr qsizetype longestNotes = 20'000;
 
 /// What separates two pieces of text, as line feeds.
 enum Break
@@ -98,7 +98,7 @@ public:
     /// What follows begins an item of a list, or does not.
     void setBeginsItem(bool begins) { m_beginsItem = begins; }
 
-    [[nodiscard]] bool isFull() const { return m_text.size() >= longest; }
+    [[nodiscard]] bool isFull() const { return m_text.size() >= longestNotes; }
 
     [[nodiscard]] QString result() const { return isFull() ? m_text + u'\u2026' : m_text; }
 

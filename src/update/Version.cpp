@@ -6,7 +6,7 @@ namespace aerolith {
 
 namespace {
 
-constexpr qsizetype longest = 100;
+constexpr qsizetype longestVersion = 100;
 
 bool isDigit(char character)
 {
@@ -77,7 +77,7 @@ std::optional<QByteArray> takeBehind(QByteArray& text, char separator)
 
 std::optional<Version> Version::parse(QStringView text)
 {
-    if (text.size() > longest) {
+    if (text.size() > longestVersion) {
         return {};
     }
     QByteArray numbers = text.toUtf8();

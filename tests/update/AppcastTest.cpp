@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray signature(64, 's');
+const QByteArray someSignature(64, 's');
 
 /// A feed with this in its channel, from line 2 on.
 QByteArray feed(const QByteArray& channel)
@@ -22,7 +22,7 @@ QByteArray feed(const QByteArray& channel)
 QByteArray enclosure(const QByteArray& version, const QByteArray& more = {})
 {
     return "<enclosure url='https://example.org/" + version + ".deb' length='7' a:version='" + version +
-           "' a:edSignature='" + signature.toBase64() + "' " + more + "/>";
+           "' a:edSignature='" + someSignature.toBase64() + "' " + more + "/>";
 }
 
 QByteArray item(const QByteArray& content)
@@ -64,7 +64,7 @@ TEST(Appcast, TellsOfEveryEnclosure)
     EXPECT_EQ(first.version, Version::parse(u"1.10"));
     EXPECT_EQ(first.url, QUrl(u"https://example.org/1.10.deb"_s));
     EXPECT_EQ(first.length, 7);
-    EXPECT_EQ(first.signature.bytes, signature);
+    EXPECT_EQ(first.signature.bytes, someSignature);
     EXPECT_EQ(first.architecture, u"arm64"_s);
     EXPECT_EQ(first.notes, u"New & old"_s);
     EXPECT_EQ(items.value().last().architecture, QString());
@@ -95,8 +95,9 @@ TEST(Appcast, RefusesWhatItCannotUseAndSaysWhere)
     EXPECT_EQ(with("version='1.10'", "version='next'"),
               u"line 2: the enclosure's attribute \"version\" cannot be used"_s);
     EXPECT_EQ(with("edSignature=", "x="), u"line 2: the enclosure has no attribute \"edSignature\""_s);
-    for (const QByteArray& bad : {QByteArray("short"), signature.first(63).toBase64(), QByteArray(88, '*')}) {
-        EXPECT_EQ(with(signature.toBase64(), bad),
+    for (const QByteArray& bad :
+         {QByteArray("short"), someSignature.first(63).toBase64(), QByteArray(88, '*')}) {
+        EXPECT_EQ(with(someSignature.toBase64(), bad),
                   u"line 2: the enclosure's attribute \"edSignature\" cannot be used"_s);
     }
     for (const char* bad : {"0", "-7", "7.0", "134217729", "99999999999999999999", "7 MB"}) {

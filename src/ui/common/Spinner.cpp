@@ -16,7 +16,7 @@ constexpr int spokes = 8;
 constexpr std::chrono::milliseconds stepInterval{125};
 constexpr double innerRadius = 3;
 constexpr double outerRadius = 5.75;
-constexpr double thickness = 1.5;
+constexpr double spokeThickness = 1.5;
 constexpr double faintest = 0.15;
 
 } // namespace
@@ -39,7 +39,7 @@ void Spinner::paintEvent(QPaintEvent*)
     const QColor color = palette().color(foregroundRole());
     for (int behind = 0; behind < spokes; ++behind) {
         const double opacity = faintest + (1 - faintest) * (spokes - 1 - behind) / (spokes - 1);
-        painter.setPen(QPen(Theme::withOpacity(color, opacity), thickness, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(QPen(Theme::withOpacity(color, opacity), spokeThickness, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(0, -innerRadius), QPointF(0, -outerRadius));
         painter.rotate(-360.0 / spokes);
     }

@@ -9,14 +9,14 @@ namespace aerolith {
 
 namespace {
 
-constexpr int barHeight = 36;
+constexpr int statusBarHeight = 36;
 constexpr int sidePadding = 12;
 
 } // namespace
 
 StatusBarFrame::StatusBarFrame(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout)
 {
-    setFixedHeight(Theme::scaledToText(barHeight));
+    setFixedHeight(Theme::scaledToText(statusBarHeight));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
 

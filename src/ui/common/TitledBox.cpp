@@ -11,10 +11,10 @@ namespace aerolith {
 
 namespace {
 
-constexpr int symbolSize = 16;
+constexpr int titleSymbolSize = 16;
 constexpr int symbolSpacing = 6;
 constexpr int titleSpacing = 8;
-constexpr int padding = 16;
+constexpr int boxPadding = 16;
 
 } // namespace
 
@@ -29,7 +29,7 @@ TitledBox::TitledBox(const QString& title, int spacing, QWidget* parent)
     m_heading->addStretch();
 
     m_frame->setAccessibleName(title);
-    m_rows->setContentsMargins(padding, padding, padding, padding);
+    m_rows->setContentsMargins(boxPadding, boxPadding, boxPadding, boxPadding);
     m_rows->setSpacing(spacing);
 
     auto* stack = new QVBoxLayout(this);
@@ -41,7 +41,7 @@ TitledBox::TitledBox(const QString& title, int spacing, QWidget* parent)
 
 void TitledBox::setSymbol(const QString& symbol)
 {
-    m_heading->insertWidget(0, new SymbolView(symbol, symbolSize, SymbolView::Emphasis::primary));
+    m_heading->insertWidget(0, new SymbolView(symbol, titleSymbolSize, SymbolView::Emphasis::primary));
 }
 
 } // namespace aerolith

@@ -11,7 +11,7 @@ namespace aerolith {
 
 namespace {
 
-struct Texts
+struct ChartLegendTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ChartLegend)
 };
@@ -53,15 +53,15 @@ QLabel* makeCaption(const QString& text)
 ChartLegend::ChartLegend(QWidget* parent) : QWidget(parent)
 {
     auto* title = new SecondaryLabel(TextStyle::subheadline);
-    title->setText(Texts::tr("Signal History"));
+    title->setText(ChartLegendTexts::tr("Signal History"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->addWidget(title);
     row->addStretch();
     row->addWidget(new LegendDot(Theme::green));
-    row->addWidget(makeCaption(Texts::tr("Signal")));
+    row->addWidget(makeCaption(ChartLegendTexts::tr("Signal")));
     row->addWidget(new LegendDot(Theme::red));
-    row->addWidget(makeCaption(Texts::tr("Noise")));
+    row->addWidget(makeCaption(ChartLegendTexts::tr("Noise")));
 }
 
 } // namespace aerolith

@@ -14,7 +14,7 @@ namespace aerolith {
 
 namespace {
 
-struct Texts
+struct HoverableDotTexts
 {
     Q_DECLARE_TR_FUNCTIONS(HoverableDot)
 };
@@ -40,7 +40,8 @@ QRectF HoverableDot::target() const
 
 QStringList HoverableDot::readOut() const
 {
-    return {Texts::tr("RSSI: %1 dBm").arg(data.rssi), Texts::tr("Noise: %1 dBm").arg(data.noise)};
+    return {HoverableDotTexts::tr("RSSI: %1 dBm").arg(data.rssi),
+            HoverableDotTexts::tr("Noise: %1 dBm").arg(data.noise)};
 }
 
 QRectF HoverableDot::readOutBox(const QFont& font) const

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct NetworkDetailsTexts
 {
     Q_DECLARE_TR_FUNCTIONS(NetworkDetails)
 };
@@ -23,32 +23,35 @@ NetworkDetailList signalOverview(const WiFiNetwork& network)
 {
     return {
         {u"currentRssi"_s, u"Current RSSI"_s, withUnit(network.rssi, "dBm"_L1),
-         Texts::tr("Received Signal Strength Indicator - measures how strong the WiFi signal is")},
+         NetworkDetailsTexts::tr(
+             "Received Signal Strength Indicator - measures how strong the WiFi signal is")},
         {u"noiseLevel"_s, u"Noise Level"_s, withUnit(network.noise, "dBm"_L1),
-         Texts::tr("Background interference level that can affect signal quality")},
+         NetworkDetailsTexts::tr("Background interference level that can affect signal quality")},
         {u"snr"_s, u"SNR"_s, withUnit(network.rssi - network.noise, "dB"_L1),
-         Texts::tr("Signal-to-Noise Ratio - higher values mean better signal quality")},
+         NetworkDetailsTexts::tr("Signal-to-Noise Ratio - higher values mean better signal quality")},
     };
 }
 
 NetworkDetailList networkInformation(const WiFiNetwork& network)
 {
     NetworkDetailList details{
-        {u"ssid"_s, u"SSID"_s, network.ssid, Texts::tr("Network name broadcast by the access point")},
+        {u"ssid"_s, u"SSID"_s, network.ssid,
+         NetworkDetailsTexts::tr("Network name broadcast by the access point")},
         {u"bssid"_s, u"BSSID"_s, network.bssid,
-         Texts::tr("Unique identifier (MAC address) of the access point")},
+         NetworkDetailsTexts::tr("Unique identifier (MAC address) of the access point")},
         {u"channel"_s, u"Channel"_s, QString::number(network.channel),
-         Texts::tr("WiFi channel number used for transmission")},
+         NetworkDetailsTexts::tr("WiFi channel number used for transmission")},
         {u"band"_s, u"Band"_s, network.channelBand,
-         Texts::tr("Frequency band used by the network (2.4 GHz or 5 GHz)")},
+         NetworkDetailsTexts::tr("Frequency band used by the network (2.4 GHz or 5 GHz)")},
         {u"channelWidth"_s, u"Channel Width"_s, withUnit(network.channelWidth, "MHz"_L1),
-         Texts::tr("Width of the frequency channel - wider channels can provide higher speeds")},
+         NetworkDetailsTexts::tr(
+             "Width of the frequency channel - wider channels can provide higher speeds")},
         {u"security"_s, u"Security"_s, network.security,
-         Texts::tr("Security protocol used to protect the network")},
+         NetworkDetailsTexts::tr("Security protocol used to protect the network")},
     };
     if (network.countryCode) {
         details.append({u"country"_s, u"Country"_s, *network.countryCode,
-                        Texts::tr("Country code defining regional WiFi regulations")});
+                        NetworkDetailsTexts::tr("Country code defining regional WiFi regulations")});
     }
     return details;
 }
@@ -57,11 +60,12 @@ NetworkDetailList advanced(const WiFiNetwork& network)
 {
     return {
         {u"beaconInterval"_s, u"Beacon Interval"_s, QString::number(network.beaconInterval),
-         Texts::tr("Time between router beacon transmissions in milliseconds")},
+         NetworkDetailsTexts::tr("Time between router beacon transmissions in milliseconds")},
         {u"networkType"_s, u"Network Type"_s, network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s,
-         Texts::tr("Infrastructure networks use access points, Ad-Hoc are direct device-to-device")},
+         NetworkDetailsTexts::tr(
+             "Infrastructure networks use access points, Ad-Hoc are direct device-to-device")},
         {u"phyModes"_s, u"PHY Modes"_s, network.isPhyModeSupported.join(u", "_s),
-         Texts::tr("Supported WiFi standards and transmission modes")},
+         NetworkDetailsTexts::tr("Supported WiFi standards and transmission modes")},
     };
 }
 
@@ -82,12 +86,13 @@ QString signalSummary(const WiFiNetwork& network)
         const auto [weakest, strongest] = std::minmax_element(
             history.begin(), history.end(),
             [](const SignalHistory& a, const SignalHistory& b) { return a.rssi < b.rssi; });
-        parts << Texts::tr("latest %1 dBm").arg(history.last().rssi)
-              << Texts::tr("lowest %1 dBm").arg(weakest->rssi)
-              << Texts::tr("highest %1 dBm").arg(strongest->rssi);
+        parts << NetworkDetailsTexts::tr("latest %1 dBm").arg(history.last().rssi)
+              << NetworkDetailsTexts::tr("lowest %1 dBm").arg(weakest->rssi)
+              << NetworkDetailsTexts::tr("highest %1 dBm").arg(strongest->rssi);
     }
     const auto count = static_cast<int>(history.size());
-    parts.append(count == 1 ? Texts::tr("1 sample") : Texts::tr("%n samples", nullptr, count));
+    parts.append(count == 1 ? NetworkDetailsTexts::tr("1 sample")
+                            : NetworkDetailsTexts::tr("%n samples", nullptr, count));
     return parts.join(listSeparator());
 }
 

@@ -2,9 +2,6 @@
 
 #include <QHash>
 
-#include <algorithm>
-#include <vector>
-
 namespace aerolith {
 
 namespace {
@@ -63,7 +60,7 @@ NetworkListChanges changesBetween(const ShownNetworks& before, const ShownNetwor
     NetworkListChanges changes;
     changes.rearranged = after.networks;
     /// For each row of the next list the row it had, or -1.
-    QList<int> rowBefore(countAfter, -1);
+    QList<int> rowBefore(after.networks.size(), -1);
     for (int row = 0; row < countBefore; ++row) {
         int destination = rowAfter.value(before.networks[row].bssid, -1);
         if (destination >= 0 && rowBefore[destination] < 0) {

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct BackdropMessageTexts
 {
     Q_DECLARE_TR_FUNCTIONS(BackdropMessage)
 };
@@ -18,13 +18,14 @@ struct Texts
 BackdropMessage backdropMessage(bool locationAccessDenied, bool listIsEmpty)
 {
     if (locationAccessDenied) {
-        return {u"location.slash"_s, Texts::tr("Location access is required\nto scan for networks.\n\n"
-                                               "Please enable it\nin System Settings.")};
+        return {u"location.slash"_s,
+                BackdropMessageTexts::tr("Location access is required\nto scan for networks.\n\n"
+                                         "Please enable it\nin System Settings.")};
     }
     if (!listIsEmpty) {
-        return {u"chevron.left"_s, Texts::tr("Select a network to view details")};
+        return {u"chevron.left"_s, BackdropMessageTexts::tr("Select a network to view details")};
     }
-    return {u"network"_s, Texts::tr("Scanning for networks.\nPlease wait...")};
+    return {u"network"_s, BackdropMessageTexts::tr("Scanning for networks.\nPlease wait...")};
 }
 
 } // namespace aerolith

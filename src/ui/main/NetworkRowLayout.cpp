@@ -13,11 +13,11 @@ constexpr double lineSpacing = 4;
 constexpr double checkmarkSpacing = 6;
 constexpr double barsWidth = 20;
 constexpr double barsHeight = 15;
-constexpr double symbolSize = 12;
+constexpr double rowSymbolSize = 12;
 
 double firstLineHeight(const NetworkRowMetrics& metrics)
 {
-    return std::max(metrics.nameHeight, symbolSize);
+    return std::max(metrics.nameHeight, rowSymbolSize);
 }
 
 double linesHeight(const NetworkRowMetrics& metrics)
@@ -45,20 +45,21 @@ NetworkRowLayout layOutNetworkRow(const QRectF& row, const NetworkRowMetrics& me
     layout.bars = centred(row.left() + sidePadding, middle, barsWidth, barsHeight);
     layout.signal = centred(row.right() - sidePadding - metrics.signalWidth, middle, metrics.signalWidth,
                             metrics.detailsHeight);
-    layout.symbol = centred(layout.signal.left() - spacing - symbolSize, middle, symbolSize, symbolSize);
+    layout.symbol =
+        centred(layout.signal.left() - spacing - rowSymbolSize, middle, rowSymbolSize, rowSymbolSize);
 
     // The flexible space has the row's spacing on both sides.
     const double left = layout.bars.right() + spacing;
     const double available = std::max(0.0, layout.symbol.left() - 2 * spacing - left);
     const double firstLine = firstLineHeight(metrics);
     const double top = middle - linesHeight(metrics) / 2;
-    const double mark = isJoined ? checkmarkSpacing + symbolSize : 0;
+    const double mark = isJoined ? checkmarkSpacing + rowSymbolSize : 0;
     const double nameWidth = std::clamp(metrics.nameWidth, 0.0, std::max(0.0, available - mark));
 
     layout.name = centred(left, top + firstLine / 2, nameWidth, metrics.nameHeight);
     if (isJoined) {
-        layout.checkmark =
-            centred(layout.name.right() + checkmarkSpacing, top + firstLine / 2, symbolSize, symbolSize);
+        layout.checkmark = centred(layout.name.right() + checkmarkSpacing, top + firstLine / 2, rowSymbolSize,
+                                   rowSymbolSize);
     }
     layout.details = QRectF(left, top + firstLine + lineSpacing, available, metrics.detailsHeight);
     return layout;

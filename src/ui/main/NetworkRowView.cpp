@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct NetworkRowViewTexts
 {
     Q_DECLARE_TR_FUNCTIONS(NetworkRowView)
 };
@@ -62,13 +62,13 @@ QString NetworkRowView::details() const
 {
     //: The second line of a row: its security, its channel's number and its band, as in "WPA2 \u2022 Ch 36 (5
     //: GHz)".
-    return Texts::tr("%1 \u2022 Ch %2 (%3)")
+    return NetworkRowViewTexts::tr("%1 \u2022 Ch %2 (%3)")
         .arg(securityText(network), QString::number(network.channel), bandText(network));
 }
 
 QString NetworkRowView::signal() const
 {
-    return Texts::tr("%1 dBm").arg(network.rssi);
+    return NetworkRowViewTexts::tr("%1 dBm").arg(network.rssi);
 }
 
 QString NetworkRowView::symbol() const
@@ -84,13 +84,14 @@ double NetworkRowView::opacity() const
 QString NetworkRowView::accessibleText() const
 {
     const WiFiSignalBars bars{.rssi = network.rssi};
-    QStringList parts{isolated(name()), securityText(network), Texts::tr("channel %1").arg(network.channel),
-                      Texts::tr("%1 of %2 bars").arg(bars.litCount()).arg(bars.barCount), signal()};
+    QStringList parts{
+        isolated(name()), securityText(network), NetworkRowViewTexts::tr("channel %1").arg(network.channel),
+        NetworkRowViewTexts::tr("%1 of %2 bars").arg(bars.litCount()).arg(bars.barCount), signal()};
     if (network.isCurrentNetwork) {
-        parts.append(Texts::tr("joined"));
+        parts.append(NetworkRowViewTexts::tr("joined"));
     }
     if (isHidden) {
-        parts.append(Texts::tr("hidden"));
+        parts.append(NetworkRowViewTexts::tr("hidden"));
     }
     return parts.join(listSeparator());
 }

@@ -8,14 +8,14 @@ namespace aerolith {
 namespace {
 
 constexpr int barHeight = 32;
-constexpr int sidePadding = 4;
+constexpr int toolBarPadding = 4;
 
 } // namespace
 
 ToolBar::ToolBar(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout(this))
 {
     setFixedHeight(barHeight);
-    m_row->setContentsMargins(sidePadding, 0, sidePadding, 0);
+    m_row->setContentsMargins(toolBarPadding, 0, toolBarPadding, 0);
     m_row->setSpacing(0);
 }
 

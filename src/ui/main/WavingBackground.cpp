@@ -19,8 +19,8 @@ using namespace BackdropMotion;
 
 namespace {
 
-constexpr int symbolSize = 36;
-constexpr int spacing = 24;
+constexpr int antennaSize = 36;
+constexpr int antennaSpacing = 24;
 constexpr int messageSize = 14;
 constexpr double ringOpacity = 0.4;
 
@@ -100,7 +100,7 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
     auto* stack = new QVBoxLayout(this);
     stack->setSpacing(0);
     stack->addStretch();
-    stack->addSpacing(symbolSize + spacing);
+    stack->addSpacing(antennaSize + antennaSpacing);
     stack->addWidget(m_message, 0, Qt::AlignHCenter);
     stack->addStretch();
 
@@ -134,7 +134,7 @@ void WavingBackground::showState()
 
 void WavingBackground::repaintMoving()
 {
-    const double reach = symbolSize * (largestSymbolScale - 1) / 2 + 1;
+    const double reach = antennaSize * (largestSymbolScale - 1) / 2 + 1;
     QRegion moving(symbolFrame().adjusted(-reach, -reach, reach, reach).toAlignedRect());
     if (m_showsRings) {
         moving += ringsRegion(QRectF(rect()).center());
@@ -144,8 +144,8 @@ void WavingBackground::repaintMoving()
 
 QRectF WavingBackground::symbolFrame() const
 {
-    const double top = m_message->geometry().top() - spacing - symbolSize;
-    return {QRectF(rect()).center().x() - symbolSize / 2.0, top, symbolSize, symbolSize};
+    const double top = m_message->geometry().top() - antennaSpacing - antennaSize;
+    return {QRectF(rect()).center().x() - antennaSize / 2.0, top, antennaSize, antennaSize};
 }
 
 void WavingBackground::paintRings(QPainter& painter) const
@@ -162,10 +162,10 @@ void WavingBackground::paintSymbol(QPainter& painter) const
 {
     const QRectF frame = symbolFrame();
     // Drawn at its largest and scaled down, so that it grows evenly.
-    const auto largest = static_cast<int>(std::ceil(symbolSize * largestSymbolScale));
+    const auto largest = static_cast<int>(std::ceil(antennaSize * largestSymbolScale));
     const QPixmap symbol =
         Symbols::pixmap(m_symbol, largest, palette().color(QPalette::WindowText), devicePixelRatioF());
-    const double side = symbolSize * symbolScale(m_clock.time());
+    const double side = antennaSize * symbolScale(m_clock.time());
     Symbols::mirrorIfPointing(painter, frame, m_symbol);
     painter.drawPixmap(centredSquare(frame.center(), side), symbol, symbol.rect());
 }

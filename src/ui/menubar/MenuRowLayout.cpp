@@ -8,7 +8,7 @@ namespace {
 
 constexpr double sidePadding = 12;
 constexpr double verticalPadding = 8;
-constexpr double spacing = 8;
+constexpr double itemSpacing = 8;
 constexpr double lineSpacing = 2;
 constexpr double connectSpacing = 4;
 constexpr double dividerHeight = 1;
@@ -82,8 +82,8 @@ MenuRowLayout layOutMenuRow(const QRectF& row, const MenuRowMetrics& metrics, bo
     }
 
     // The flexible space has the row's spacing on both sides.
-    const double left = layout.bars.right() + spacing;
-    const double width = std::max(0.0, trailing - 2 * spacing - left);
+    const double left = layout.bars.right() + itemSpacing;
+    const double width = std::max(0.0, trailing - 2 * itemSpacing - left);
     layout.name = QRectF(left, middle - textHeight(metrics, isJoined) / 2, width, metrics.nameHeight);
     if (isJoined) {
         layout.chart = QRectF(left, layout.name.bottom() + lineSpacing + chartPadding, width, chartHeight);

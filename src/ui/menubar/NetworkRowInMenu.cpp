@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct NetworkRowInMenuTexts
 {
     Q_DECLARE_TR_FUNCTIONS(NetworkRowInMenu)
 };
@@ -34,7 +34,7 @@ constexpr QMarginsF focusDistance{2, 2, 2, 2};
 
 QString connectText()
 {
-    return Texts::tr("Connect");
+    return NetworkRowInMenuTexts::tr("Connect");
 }
 
 QFont nameFont(const QFont& base)
@@ -61,10 +61,10 @@ QString NetworkRowInMenu::accessibleText() const
 {
     const QString name = isolated(singleLine(network.ssid));
     if (network.isCurrentNetwork) {
-        return Texts::tr("%1, joined").arg(name);
+        return NetworkRowInMenuTexts::tr("%1, joined").arg(name);
     }
     //: %1 is a network, %2 its security.
-    return Texts::tr("Connect to %1, %2").arg(name, securityText(network));
+    return NetworkRowInMenuTexts::tr("Connect to %1, %2").arg(name, securityText(network));
 }
 
 int NetworkRowInMenu::height(const QFont& font, bool isJoined)

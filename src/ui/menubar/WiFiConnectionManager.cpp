@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct WiFiConnectionManagerTexts
 {
     Q_DECLARE_TR_FUNCTIONS(WiFiConnectionManager)
 };
@@ -35,7 +35,7 @@ Failure associate(CWInterface& interface, const CWNetwork& network, const std::o
 
 void showFailure(const Error& error)
 {
-    Alert alert(Texts::tr("Connection Failed"), error.description);
+    Alert alert(WiFiConnectionManagerTexts::tr("Connection Failed"), error.description);
     alert.exec();
 }
 

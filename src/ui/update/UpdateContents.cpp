@@ -9,7 +9,7 @@ namespace aerolith {
 
 namespace {
 
-struct Texts
+struct UpdateContentsTexts
 {
     Q_DECLARE_TR_FUNCTIONS(UpdateContents)
 };
@@ -42,56 +42,59 @@ struct ContentsOf
 
     UpdateContents operator()(const UpdateChecking&) const
     {
-        return {.heading = Texts::tr("Checking for updates\u2026"),
+        return {.heading = UpdateContentsTexts::tr("Checking for updates\u2026"),
                 .isBusy = true,
-                .dismiss = Texts::tr("Cancel")};
+                .dismiss = UpdateContentsTexts::tr("Cancel")};
     }
 
     UpdateContents operator()(const UpdateUpToDate&) const
     {
-        return {.heading = Texts::tr("Aerolith is up to date"),
-                .message = Texts::tr("There is nothing newer than version %1.").arg(running),
+        return {.heading = UpdateContentsTexts::tr("Aerolith is up to date"),
+                .message = UpdateContentsTexts::tr("There is nothing newer than version %1.").arg(running),
                 .offersAutomaticChecks = true,
-                .dismiss = Texts::tr("OK"),
+                .dismiss = UpdateContentsTexts::tr("OK"),
                 .isOver = true};
     }
 
     UpdateContents operator()(const UpdateAvailable& available) const
     {
-        return {.heading = Texts::tr("Aerolith %1 is available").arg(shownVersion(available.item)),
-                .message = Texts::tr("You have version %1. The download is %2.")
+        return {.heading =
+                    UpdateContentsTexts::tr("Aerolith %1 is available").arg(shownVersion(available.item)),
+                .message = UpdateContentsTexts::tr("You have version %1. The download is %2.")
                                .arg(running, shownSize(available.item.length)),
                 .notes = shownNotes(available.item.notes),
                 .offersDownload = true,
                 .offersAutomaticChecks = true,
-                .dismiss = Texts::tr("Later")};
+                .dismiss = UpdateContentsTexts::tr("Later")};
     }
 
     UpdateContents operator()(const UpdateDownloading& downloading) const
     {
         const auto& [item, received] = downloading;
-        return {.heading = Texts::tr("Downloading Aerolith %1\u2026").arg(shownVersion(item)),
-                .message = Texts::tr("%1 of %2").arg(shownSize(received), shownSize(item.length)),
+        return {.heading = UpdateContentsTexts::tr("Downloading Aerolith %1\u2026").arg(shownVersion(item)),
+                .message =
+                    UpdateContentsTexts::tr("%1 of %2").arg(shownSize(received), shownSize(item.length)),
                 .progress = static_cast<double>(received) / static_cast<double>(item.length),
-                .dismiss = Texts::tr("Cancel")};
+                .dismiss = UpdateContentsTexts::tr("Cancel")};
     }
 
     UpdateContents operator()(const UpdateDownloaded& downloaded) const
     {
-        return {.heading = Texts::tr("Aerolith %1 is downloaded").arg(shownVersion(downloaded.item)),
-                .message =
-                    Texts::tr("Its signature is right. It was saved as\n%1").arg(singleLine(downloaded.path)),
-                .dismiss = Texts::tr("OK"),
+        return {.heading =
+                    UpdateContentsTexts::tr("Aerolith %1 is downloaded").arg(shownVersion(downloaded.item)),
+                .message = UpdateContentsTexts::tr("Its signature is right. It was saved as\n%1")
+                               .arg(singleLine(downloaded.path)),
+                .dismiss = UpdateContentsTexts::tr("OK"),
                 .isOver = true};
     }
 
     UpdateContents operator()(const UpdateFailed& failed) const
     {
         const bool checking = failed.step == UpdateFailed::Step::check;
-        return {.heading = checking ? Texts::tr("Updates could not be checked")
-                                    : Texts::tr("The update was not downloaded"),
-                .message = Texts::tr("%1.").arg(singleLine(failed.error.description)),
-                .dismiss = Texts::tr("Close"),
+        return {.heading = checking ? UpdateContentsTexts::tr("Updates could not be checked")
+                                    : UpdateContentsTexts::tr("The update was not downloaded"),
+                .message = UpdateContentsTexts::tr("%1.").arg(singleLine(failed.error.description)),
+                .dismiss = UpdateContentsTexts::tr("Close"),
                 .isOver = true};
     }
 };

@@ -8,7 +8,7 @@ namespace aerolith {
 
 namespace {
 
-constexpr QSizeF full(600, 250);
+constexpr QSizeF fullSize(600, 250);
 
 struct ScaleCase
 {
@@ -19,7 +19,7 @@ struct ScaleCase
 
 SignalChartGeometry geometry(const SignalHistoryList& history)
 {
-    return {history, full};
+    return {history, fullSize};
 }
 
 /// Where a path's segments begin and end.
@@ -99,9 +99,9 @@ TEST(SignalChartGeometry, ClosesTheAreaAlongTheEdges)
 
 TEST(SignalChartGeometry, WritesTheValuesAsOneBlockInTheMiddle)
 {
-    const QList<QRectF> labels = valueLabels({6, 18, 24}, 12, full);
+    const QList<QRectF> labels = valueLabels({6, 18, 24}, 12, fullSize);
     EXPECT_EQ(labels, (QList<QRectF>{{18, 103, 6, 12}, {6, 119, 18, 12}, {0, 135, 24, 12}}));
-    EXPECT_TRUE(valueLabels({}, 12, full).isEmpty());
+    EXPECT_TRUE(valueLabels({}, 12, fullSize).isEmpty());
 }
 
 TEST(TrimmedPath, EndsAtItsShareOfTheLengthAlongTheCurve)

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Texts
+struct XdgWorkspaceTexts
 {
     Q_DECLARE_TR_FUNCTIONS(XdgWorkspace)
 };
@@ -101,9 +101,10 @@ Failure XdgWorkspace::openDiagnostics()
 Failure XdgWorkspace::diagnosticsObstacle() const
 {
     const auto command = firstInstalled(diagnosticsCommands(currentDesktop()));
-    return command.ok() ? Failure()
-                        : Error{Texts::tr("Cannot open a tool for network diagnostics: not installed: %1")
-                                    .arg(command.error().description)};
+    return command.ok()
+               ? Failure()
+               : Error{XdgWorkspaceTexts::tr("Cannot open a tool for network diagnostics: not installed: %1")
+                           .arg(command.error().description)};
 }
 
 } // namespace aerolith

@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using enum CWSecurity;
 
-QString failed(quint32 reason, CWSecurity security, bool stillHeard = true)
+QString descriptionOf(quint32 reason, CWSecurity security, bool stillHeard = true)
 {
     CWNetwork network;
     network.securityCodes.insert(static_cast<int>(security));
@@ -20,14 +20,14 @@ QString failed(quint32 reason, CWSecurity security, bool stillHeard = true)
 
 TEST(JoinFailure, TellsAWrongPasswordFromANetworkThatIsGone)
 {
-    EXPECT_EQ(failed(7, personal), u"The password is not correct"_s);
-    EXPECT_EQ(failed(7, enterprise), u"The login that is stored for the network is not correct"_s);
-    EXPECT_EQ(failed(53, personal, false), u"The network is out of reach"_s);
-    EXPECT_EQ(failed(53, wpa3Personal, false), u"The network is out of reach"_s);
-    EXPECT_EQ(failed(53, personal), u"The network does not let this machine in"_s);
+    EXPECT_EQ(descriptionOf(7, personal), u"The password is not correct"_s);
+    EXPECT_EQ(descriptionOf(7, enterprise), u"The login that is stored for the network is not correct"_s);
+    EXPECT_EQ(descriptionOf(53, personal, false), u"The network is out of reach"_s);
+    EXPECT_EQ(descriptionOf(53, wpa3Personal, false), u"The network is out of reach"_s);
+    EXPECT_EQ(descriptionOf(53, personal), u"The network does not let this machine in"_s);
     const auto early = u"The network does not let this machine in: the password is probably not correct"_s;
-    EXPECT_EQ(failed(53, wpa3Personal), early);
-    EXPECT_EQ(failed(53, wep), early);
+    EXPECT_EQ(descriptionOf(53, wpa3Personal), early);
+    EXPECT_EQ(descriptionOf(53, wep), early);
 }
 
 TEST(JoinFailure, HasASentenceForEveryCause)
@@ -35,10 +35,10 @@ TEST(JoinFailure, HasASentenceForEveryCause)
     QSet<QString> sentences;
     const QList<quint32> causes{5, 7, 8, 9, 11, 36, 37, 39, 53, 60, 99};
     for (const auto reason : causes) {
-        sentences.insert(failed(reason, personal));
+        sentences.insert(descriptionOf(reason, personal));
     }
     EXPECT_EQ(sentences.size(), causes.size());
-    EXPECT_TRUE(failed(99, personal).contains(u"99"_s));
+    EXPECT_TRUE(descriptionOf(99, personal).contains(u"99"_s));
 
     const auto outOfTime = [](DeviceState state) {
         return joinFailure({.outcome = ActivationOutcome::outOfTime, .state = state}, {}, true).description;
