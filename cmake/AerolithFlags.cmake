@@ -21,9 +21,9 @@ set(AEROLITH_SANITIZE "" CACHE STRING "Sanitizers to build with, as given to -fs
 if(AEROLITH_SANITIZE)
     add_compile_options(-fsanitize=${AEROLITH_SANITIZE} -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${AEROLITH_SANITIZE})
-    # GCC loses sight of an optional's flag in instrumented code and warns of what cannot be.
+    # GCC loses sight of an optional's flag, or of an object's kind, in instrumented code and warns of what cannot be.
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-        target_compile_options(aerolith_warnings INTERFACE -Wno-maybe-uninitialized)
+        target_compile_options(aerolith_warnings INTERFACE -Wno-maybe-uninitialized -Wno-array-bounds)
     endif()
     if(AEROLITH_SANITIZE MATCHES undefined)
         add_compile_options(-fno-sanitize-recover=undefined)
