@@ -21,6 +21,9 @@ constexpr auto endLimit = 30s;
 constexpr auto usualScan = 10s;
 constexpr auto longestScan = 20s;
 
+// What the service, itself told of the end of a scan, may be behind by on a busy machine.
+constexpr auto lateness = 1s;
+
 // The question for a name, or its answer, is easily lost on the air.
 constexpr int questions = 2;
 
@@ -30,10 +33,17 @@ bool asksFor(const ScanEvent& event, const QByteArray& ssid)
 }
 
 /// A bound for the beginning of a scan that ended, or was under way, at `end`; the one before it ended at
-/// `before`.
+/// `before`, says the service.
 BootTime earliestStart(BootTime end, std::optional<BootTime> before)
 {
-    return std::max(end - longestScan, before.value_or(BootTime::min()));
+    return before ? std::max(end - longestScan, *before - lateness) : end - longestScan;
+}
+
+/// The same for the one that is under way when the wait begins.
+BootTime runningSince(const WaitStart& start)
+{
+    return start.underWaySince ? std::max(start.begun - longestScan, *start.underWaySince)
+                               : earliestStart(start.begun, start.lastScan);
 }
 
 /// The same for the newest scan that the service knows of, unless that is too long ago or has heard nothing:
@@ -57,8 +67,6 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, co
 {
     const BootTime begun = start.begun;
     const auto before = start.lastScan;
-    const auto runningSince =
-        std::max(earliestStart(begun, before), start.underWaySince.value_or(BootTime::min()));
     const bool isListed = ssid && heard(BootTime::min());
     auto refusal = service.request(isListed ? std::nullopt : ssid);
     const auto requested = Deadline::clock::now();
@@ -90,7 +98,7 @@ Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, co
             deadline = lastDeadline;
             break;
         case ScanStage::finished: {
-            const auto since = startSeen ? begun : runningSince;
+            const auto since = startSeen ? begun : runningSince(start);
             if (!ssid || heard(since)) {
                 return since;
             }

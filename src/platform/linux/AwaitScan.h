@@ -20,7 +20,7 @@ struct WaitStart
 {
     /// Before the events were made, and that before the wait.
     nl80211::BootTime begun;
-    /// The earliest that the scan can have begun which was under way then; absent where that is not known.
+    /// The earliest that a scan can have begun which was under way then; absent where that is not known.
     std::optional<nl80211::BootTime> underWaySince = {};
     /// The newest scan that the service knew of, read before the events were made: of a scan whose end they
     /// tell, it must not know yet.

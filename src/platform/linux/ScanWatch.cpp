@@ -4,17 +4,9 @@
 
 namespace aerolith {
 
-using namespace std::chrono_literals;
-
-namespace {
-
-// An event has no time of its own, and a busy main thread reads it late.
-constexpr auto lateness = 500ms;
-
-} // namespace
-
 ScanWatch::ScanWatch(nl80211::Nl80211& kernel, nl80211::ScansUnderWay& scans) : m_scans(scans)
 {
+    m_scans.allTakenUntil(nl80211::bootTimeNow());
     const auto events = kernel.scanEvents({});
     if (!events.ok() || !events.value()->descriptor()) {
         return;
@@ -27,15 +19,17 @@ ScanWatch::ScanWatch(nl80211::Nl80211& kernel, nl80211::ScansUnderWay& scans) : 
 void ScanWatch::read()
 {
     for (;;) {
+        const auto asked = nl80211::bootTimeNow();
         const auto event = m_events->wait({});
         if (!event.ok()) {
             m_scans.forgetAll(); // some may have been missed
             return;
         }
         if (!event.value()) {
+            m_scans.allTakenUntil(asked);
             return;
         }
-        m_scans.take(*event.value(), nl80211::bootTimeNow() - lateness);
+        m_scans.take(*event.value());
     }
 }
 

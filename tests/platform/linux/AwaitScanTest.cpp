@@ -115,9 +115,12 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
     EXPECT_EQ(await({finished}), begun - 20s);
     EXPECT_EQ(await({std::nullopt, finished}), begun - 20s) << "it takes longer than one may take to begin";
     m_service.lastScans = {begun - 3s};
-    EXPECT_EQ(await({finished}), begun - 3s) << "it began after the one before had ended";
-    m_underWaySince = begun - 1s;
-    EXPECT_EQ(await({finished}), begun - 1s) << "its start was seen";
+    EXPECT_EQ(await({finished}), begun - 4s)
+        << "it began after the one before had ended, of which news is late";
+    m_underWaySince = begun - 5s;
+    EXPECT_EQ(await({finished}), begun - 5s) << "its start was seen";
+    m_underWaySince = begun - 60s;
+    EXPECT_EQ(await({finished}), begun - 20s);
     EXPECT_EQ(await({started, finished}), begun) << "it has ended meanwhile";
 
     EXPECT_EQ(await({finished}, "x"_ba), std::nullopt);
@@ -125,7 +128,7 @@ TEST_F(AwaitScanTest, aScanUnderWayAnswersAFullScanAlone)
 
 TEST_F(AwaitScanTest, aScanForANameEndsWhereTheNameIsHeard)
 {
-    m_heard = begun - 2s;
+    m_heard = begun - 3s;
     EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun - 20s) << "another scan has found it";
     m_service.lastScans = {begun - 1s};
     EXPECT_EQ(await({finished, started, finished}, "x"_ba), begun - 11s) << "found before that one";
@@ -179,7 +182,7 @@ TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
     m_service.lastScans = {begun - 40s, begun + 14s};
     EXPECT_EQ(await({}), begun - 6s) << "a long one has just ended";
     m_service.lastScans = {begun - 3s, begun + 14s};
-    EXPECT_EQ(await({}), begun - 3s);
+    EXPECT_EQ(await({}), begun - 4s);
 
     m_service.lastScans = {begun - 15s};
     EXPECT_EQ(await({}), std::nullopt);

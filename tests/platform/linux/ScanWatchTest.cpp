@@ -12,7 +12,6 @@
 namespace aerolith {
 namespace {
 
-using namespace std::chrono_literals;
 using nl80211::bootTimeNow;
 using nl80211::ScanStage;
 using testing::AllOf;
@@ -51,16 +50,22 @@ protected:
 
 TEST_F(ScanWatchTest, knowsSinceWhenAScanIsUnderWay)
 {
+    const auto made = bootTimeNow();
     const ScanWatch watch(m_kernel, m_scans);
-    const auto before = bootTimeNow();
+    const auto idle = bootTimeNow();
+    EXPECT_EQ(m_scans.since(wlan0), std::nullopt) << "one may have begun before";
+
     tell({ScanStage::started});
-    EXPECT_THAT(m_scans.since(wlan0), Optional(AllOf(Ge(before - 1s), Le(bootTimeNow()))));
+    EXPECT_THAT(m_scans.since(wlan0), Optional(AllOf(Ge(made), Le(idle)))) << "however late that is read";
     EXPECT_EQ(m_scans.since(wlan0 + 1), std::nullopt) << "another interface";
 
     tell({ScanStage::finished});
-    EXPECT_EQ(m_scans.since(wlan0), std::nullopt);
+    const auto rested = bootTimeNow();
+    EXPECT_THAT(m_scans.since(wlan0), Optional(AllOf(Ge(idle), Le(rested))))
+        << "the next one is yet to be read";
     tell({ScanStage::started, ScanStage::aborted, ScanStage::started});
-    EXPECT_NE(m_scans.since(wlan0), std::nullopt) << "all that are waiting are read";
+    EXPECT_THAT(m_scans.since(wlan0), Optional(AllOf(Ge(idle), Le(rested))))
+        << "all that are waiting are read";
 }
 
 TEST_F(ScanWatchTest, knowsNothingWhereEventsAreMissing)

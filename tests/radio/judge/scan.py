@@ -114,13 +114,13 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
 
 def judge_samples(bssid: str, history: list[dict], scans: Scans, faults: Faults) -> int:
     """A sample has the signal that iw lists for the cycle's scan if, and only if, iw too says that this scan has heard
-    the access point. An emulated machine that is short of time does miss some. Returns how many samples iw could
-    tell of."""
+    the access point; one heard so shortly before that a cycle which began within the scan may count it is passed over.
+    An emulated machine that is short of time does miss some. Returns how many samples iw could tell of."""
     checked = 0
     for sample in history:
         scan = scans.last_ended_before(unix_time(sample))
         silent = scan.was_silent(bssid)
-        if silent is None:
+        if silent is None or (silent and sample["rssi"] != MISSED and scan.may_count(bssid, sample is history[0])):
             continue
         checked += 1
         expected = MISSED if silent else round(scan.entries[bssid].signal)

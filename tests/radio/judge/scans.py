@@ -7,7 +7,7 @@ import iw_dump
 
 TOLERANCE = 0.1  # seconds between the clocks of events and of iw's list
 LONGEST = 20  # seconds: what a scan is taken to have lasted that was under way when the program started
-LATENESS = 1  # seconds, at most, that the program takes any other scan to have begun before it did
+LATENESS = 2  # seconds, at most, that the program takes any other scan to have begun before it did
 
 
 class Scan:

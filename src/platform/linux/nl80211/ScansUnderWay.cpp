@@ -2,14 +2,17 @@
 
 namespace aerolith::nl80211 {
 
-void ScansUnderWay::take(const ScanEvent& event, BootTime now)
+void ScansUnderWay::allTakenUntil(BootTime time)
 {
     const std::lock_guard lock(m_mutex);
-    if (event.stage == ScanStage::started) {
-        m_starts[event.interfaceIndex] = now;
-    } else {
-        m_starts.erase(event.interfaceIndex);
-    }
+    m_allTakenUntil = time;
+}
+
+void ScansUnderWay::take(const ScanEvent& event)
+{
+    const std::lock_guard lock(m_mutex);
+    m_starts[event.interfaceIndex] =
+        event.stage == ScanStage::started ? std::optional(m_allTakenUntil) : std::nullopt;
 }
 
 void ScansUnderWay::forgetAll()
@@ -22,7 +25,7 @@ std::optional<BootTime> ScansUnderWay::since(std::uint32_t interfaceIndex) const
 {
     const std::lock_guard lock(m_mutex);
     const auto start = m_starts.find(interfaceIndex);
-    return start == m_starts.end() ? std::nullopt : std::optional(start->second);
+    return start == m_starts.end() ? std::nullopt : std::optional(start->second.value_or(m_allTakenUntil));
 }
 
 } // namespace aerolith::nl80211
