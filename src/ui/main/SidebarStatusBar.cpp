@@ -72,6 +72,8 @@ void SidebarStatusBar::exportList()
 void SidebarStatusBar::showSortOption()
 {
     m_sortMenu->setCurrentIndex(m_sortMenu->findData(QVariant::fromValue(m_scanner.sortOption())));
+    // A screen reader that has said the purpose does not say the name.
+    m_sortMenu->setAccessibleDescription(m_sortMenu->currentText());
 }
 
 } // namespace aerolith
