@@ -1,7 +1,6 @@
 #include "app/AerolithApp.h"
 
 #include "app/MainMenu.h"
-#include "app/ReducedMotion.h"
 #include "app/WindowIcon.h"
 #include "app/instance/ShowInFront.h"
 #include "ui/menubar/TrayStatusItem.h"
@@ -9,7 +8,7 @@
 namespace aerolith {
 
 AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop,
-                         const OneInstance& instance)
+                         const OneInstance& instance, PortalSettings& portalSettings)
     : m_selectionStore(surroundings.mainQueue)
     , m_scanner(m_selectionStore, surroundings)
     , m_updaterController(UpdateOptions::standard(surroundings.log),
@@ -36,7 +35,7 @@ AerolithApp::AerolithApp(const Surroundings& surroundings, const DesktopServices
                     [this, &instance] { return instance.isFirst() || m_statusMenu.hasStatusItem(); })
 {
     setWindowIconOnceShown(m_mainWindow);
-    new ReducedMotion(m_mainWindow);
+    portalSettings.followAfterPainting(m_mainWindow);
     addMainMenu(
         m_mainWindow,
         {.updater = m_updaterController.updater(), .workspace = desktop.workspace, .log = surroundings.log});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/HideOnClose.h"
+#include "app/PortalSettings.h"
 #include "app/instance/OneInstance.h"
 #include "model/DateTexts.h"
 #include "model/SelectionStore.h"
@@ -12,13 +13,13 @@
 namespace aerolith {
 
 /// The objects that live for the whole process, made once and in this order. A QApplication exists; the
-/// surroundings and the instance outlive it. Main thread.
+/// surroundings, the instance and the portal's settings outlive it. Main thread.
 class AerolithApp
 {
 public:
     /// While the instance is the session's first, starting the program again shows the main window.
-    AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop,
-                const OneInstance& instance);
+    AerolithApp(const Surroundings& surroundings, const DesktopServices& desktop, const OneInstance& instance,
+                PortalSettings& portalSettings);
 
     /// In front of other windows, hidden or minimised before or not.
     void showMainWindow();

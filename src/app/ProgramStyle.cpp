@@ -1,6 +1,7 @@
 #include "app/ProgramStyle.h"
 
 #include "ui/common/PaintedIconEngine.h"
+#include "ui/common/Theme.h"
 
 #include <QApplication>
 #include <QStyleOption>
@@ -45,6 +46,17 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
 {
     const bool isMotion = hint == SH_Widget_Animation_Duration || hint == SH_Widget_Animate;
     return m_still && isMotion ? 0 : QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_IndicatorCheckBox && Theme::isDark(option->palette)) {
+        painter->setPen(Theme::gray());
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
 }
 
 QIcon ProgramStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,

@@ -1,8 +1,11 @@
 #include "app/AerolithApp.h"
+#include "app/ColourScheme.h"
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
 #include "app/FontConfiguration.h"
+#include "app/PortalSettings.h"
 #include "app/ProgramStyle.h"
+#include "app/ReducedMotion.h"
 #include "app/Translations.h"
 #include "platform/qt/Locale.h"
 #include "platform/qt/StandardLog.h"
@@ -47,6 +50,9 @@ int run(int argc, char** argv, const std::optional<Simulation>& simulate)
     QApplication::setApplicationVersion(QStringLiteral(AEROLITH_VERSION));
     QApplication::setDesktopFileName(u"org.aerolith.Aerolith"_s);
 
+    PortalSettings portalSettings;
+    const ColourScheme colourScheme(portalSettings);
+    const ReducedMotion reducedMotion(portalSettings);
     OneInstance instance;
     Failure unclaimed;
     // A simulated run is one of its own, beside a real one and beside other simulated ones.
@@ -72,7 +78,8 @@ int run(int argc, char** argv, const std::optional<Simulation>& simulate)
     }
     const TerminationSignals terminationSignals([] { QApplication::exit(0); });
     listPopoversAsWindows();
-    AerolithApp app(surroundings, platform.value()->desktopServices(), instance);
+    portalSettings.tellFirst();
+    AerolithApp app(surroundings, platform.value()->desktopServices(), instance, portalSettings);
     app.showMainWindow();
     const int status = QApplication::exec();
     instance.release();

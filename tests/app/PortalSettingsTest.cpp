@@ -1,7 +1,10 @@
-#include "app/ReducedMotion.h"
+#include "app/PortalSettings.h"
 
+#include "app/ColourScheme.h"
 #include "app/ProgramStyle.h"
+#include "app/ReducedMotion.h"
 #include "platform/linux/networkmanager/PrivateBus.h"
+#include "ui/common/Theme.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -36,6 +39,12 @@ public:
 
     ~FakePortal() override { QDBusConnection::disconnectFromBus(u"portal"_s); }
 
+    /// The second time is after the first painting, when changes are listened to.
+    void awaitQuestions(int count)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m_questions == count; }));
+    }
+
     void change(const QString& group, const QString& key, const QVariant& value)
     {
         auto signal =
@@ -49,6 +58,7 @@ public Q_SLOTS:
     Q_SCRIPTABLE void ReadAll(const QStringList& groups, const QDBusMessage& call)
     {
         EXPECT_EQ(groups.size(), 2);
+        ++m_questions;
         call.setDelayedReply(true);
         m_bus.send(call.createReply(m_answer));
     }
@@ -57,6 +67,7 @@ private:
     const QString path = u"/org/freedesktop/portal/desktop"_s;
     QDBusConnection m_bus;
     QVariant m_answer;
+    int m_questions = 0;
 };
 
 namespace {
@@ -79,36 +90,60 @@ private:
     bool m_moves = true;
 };
 
-class ReducedMotionTest : public testing::Test
+class PortalSettingsTest : public testing::Test
 {
 protected:
-    ReducedMotionTest()
+    PortalSettingsTest() { QApplication::setStyle(new ProgramStyle); }
+
+    ~PortalSettingsTest() override { QApplication::setPalette(QPalette()); }
+
+    /// As a desktop tells whether it is dark.
+    static Settings colourScheme(uint scheme)
     {
-        qputenv("DBUS_SESSION_BUS_ADDRESS", bus().address().toUtf8());
-        QApplication::setStyle(new ProgramStyle);
-        new ReducedMotion(window);
+        return {{PortalSettings::standard, {{u"color-scheme"_s, scheme}}}};
     }
+
+    /// The program from its start to its first painting.
+    void start(FakePortal* portal = nullptr)
+    {
+        settings.emplace();
+        colours.emplace(*settings);
+        motion.emplace(*settings);
+        if (portal) {
+            portal->awaitQuestions(1); // which it answers on this thread
+        }
+        settings->tellFirst();
+        settings->followAfterPainting(window);
+        window.show();
+    }
+
+    [[nodiscard]] static bool isDark() { return Theme::isDark(QApplication::palette()); }
 
     /// One for all tests: a process finds its session's bus once.
     static const PrivateBus& bus()
     {
         static const PrivateBus theBus;
+        qputenv("DBUS_SESSION_BUS_ADDRESS", theBus.address().toUtf8());
         return theBus;
     }
 
+    std::optional<PortalSettings> settings;
+    std::optional<ColourScheme> colours;
+    std::optional<ReducedMotion> motion;
     Moving window;
 };
 
 } // namespace
 
-TEST_F(ReducedMotionTest, FollowsTheDesktopWhileItRuns)
+TEST_F(PortalSettingsTest, ReduceMotionWhileTheProgramRuns)
 {
     FakePortal portal(
         bus().address(),
         QVariant::fromValue(Settings{{u"org.gnome.desktop.interface"_s,
                                       {{u"enable-animations"_s, false}, {u"font-name"_s, u"Sans"_s}}}}));
-    window.show();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); })) << "asked after the first painting";
+    start(&portal);
+    EXPECT_FALSE(window.moves());
+    portal.awaitQuestions(2);
 
     portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.moves(); }));
@@ -119,11 +154,43 @@ TEST_F(ReducedMotionTest, FollowsTheDesktopWhileItRuns)
     EXPECT_FALSE(window.moves()) << "either of them is enough";
 }
 
-TEST_F(ReducedMotionTest, OutlivesAnAnswerOfAnotherType)
+TEST_F(PortalSettingsTest, MakeTheProgramDarkFromItsFirstPicture)
+{
+    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
+    start(&portal);
+    EXPECT_TRUE(isDark());
+    portal.awaitQuestions(2);
+    portal.change(PortalSettings::standard, u"color-scheme"_s, 2U);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isDark(); }));
+    portal.change(PortalSettings::standard, u"color-scheme"_s, 1U);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isDark(); }));
+    portal.change(PortalSettings::standard, u"color-scheme"_s, 0U);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isDark(); })) << "no wish";
+}
+
+TEST_F(PortalSettingsTest, AreAskedForAgainWhereThePortalBeginsLate)
+{
+    bus();
+    start();
+    EXPECT_FALSE(isDark());
+    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isDark(); }));
+}
+
+TEST_F(PortalSettingsTest, LeaveADarkDesktopItsOwnColours)
+{
+    const QPalette own(QColor(40, 0, 0), QColor(30, 0, 0));
+    QApplication::setPalette(own);
+    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
+    start(&portal);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), own.color(QPalette::Base));
+}
+
+TEST_F(PortalSettingsTest, OutliveAnAnswerOfAnotherType)
 {
     FakePortal portal(bus().address(), QVariantMap{{u"enable-animations"_s, false}});
-    window.show();
-    QTest::qWait(50);
+    start(&portal);
+    portal.awaitQuestions(2);
     EXPECT_TRUE(window.moves());
     portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
@@ -131,4 +198,4 @@ TEST_F(ReducedMotionTest, OutlivesAnAnswerOfAnotherType)
 
 } // namespace aerolith
 
-#include "ReducedMotionTest.moc"
+#include "PortalSettingsTest.moc"
