@@ -4,8 +4,7 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QMutexLocker>
-
-#include <atomic>
+#include <QUuid>
 
 namespace aerolith {
 
@@ -15,12 +14,6 @@ namespace {
 
 const auto managerPath = u"/org/freedesktop/NetworkManager"_s;
 const auto managerInterface = u"org.freedesktop.NetworkManager"_s;
-
-QString uniqueConnectionName()
-{
-    static std::atomic<int> count = 0;
-    return u"fake-networkmanager-%1"_s.arg(++count);
-}
 
 // "Get Wireless.LastScan" for a property's call, else the method's name.
 QString nameOf(const QDBusMessage& call)
@@ -37,12 +30,11 @@ QString nameOf(const QDBusMessage& call)
 
 const QString FakeNetworkManager::devicePath = u"/org/freedesktop/NetworkManager/Devices/2"_s;
 const QString FakeNetworkManager::accessPointPath = u"/org/freedesktop/NetworkManager/AccessPoint/7"_s;
-
 const QString FakeNetworkManager::activePath = u"/org/freedesktop/NetworkManager/ActiveConnection/4"_s;
 const QString FakeNetworkManager::newProfilePath = u"/org/freedesktop/NetworkManager/Settings/9"_s;
 
 FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
-    : m_connectionName(uniqueConnectionName())
+    : m_connectionName(QUuid::createUuid().toString())
     , m_properties{{u"NetworkManager.WirelessEnabled"_s, true},
                    {u"NetworkManager.WirelessHardwareEnabled"_s, true},
                    {u"Device.StateReason"_s, QVariant::fromValue(DeviceStateReason{30, 0})},
@@ -92,19 +84,12 @@ void FakeNetworkManager::setScanPermission(const QString& permission)
         const QMutexLocker lock(&m_mutex);
         m_permissions[u"org.freedesktop.NetworkManager.wifi.scan"_s] = permission;
     }
-    QMetaObject::invokeMethod(this, [this] {
-        QDBusConnection(m_connectionName)
-            .send(QDBusMessage::createSignal(u"/org/freedesktop/PolicyKit1/Authority"_s,
-                                             u"org.freedesktop.PolicyKit1.Authority"_s, u"Changed"_s));
-    });
+    tell(u"/org/freedesktop/PolicyKit1/Authority"_s, u"org.freedesktop.PolicyKit1.Authority"_s, u"Changed"_s);
 }
 
 void FakeNetworkManager::emitCheckPermissions()
 {
-    QMetaObject::invokeMethod(this, [this] {
-        QDBusConnection(m_connectionName)
-            .send(QDBusMessage::createSignal(managerPath, managerInterface, u"CheckPermissions"_s));
-    });
+    tell(managerPath, managerInterface, u"CheckPermissions"_s);
 }
 
 void FakeNetworkManager::setActivation(const QList<DeviceStateReason>& states, quint32 activeState)
@@ -114,37 +99,33 @@ void FakeNetworkManager::setActivation(const QList<DeviceStateReason>& states, q
     m_activeState = activeState;
 }
 
-void FakeNetworkManager::tell(const QString& path, const QString& interface, const QVariantList& arguments)
+void FakeNetworkManager::tell(const QString& path, const QString& interface, const QString& signal,
+                              const QVariantList& arguments)
 {
-    auto signal = QDBusMessage::createSignal(path, interface, u"StateChanged"_s);
-    signal.setArguments(arguments);
-    QMetaObject::invokeMethod(this, [this, signal] { QDBusConnection(m_connectionName).send(signal); });
+    auto message = QDBusMessage::createSignal(path, interface, signal);
+    message.setArguments(arguments);
+    QMetaObject::invokeMethod(this, [this, message] { QDBusConnection(m_connectionName).send(message); });
 }
 
 void FakeNetworkManager::tellDeviceState(DeviceStateReason state)
 {
-    tell(devicePath, u"org.freedesktop.NetworkManager.Device"_s, {state.state, 0U, state.reason});
+    tell(devicePath, u"org.freedesktop.NetworkManager.Device"_s, u"StateChanged"_s,
+         {state.state, 0U, state.reason});
 }
 
 void FakeNetworkManager::tellActiveState(quint32 state)
 {
-    tell(activePath, u"org.freedesktop.NetworkManager.Connection.Active"_s, {state, 0U});
+    tell(activePath, u"org.freedesktop.NetworkManager.Connection.Active"_s, u"StateChanged"_s, {state, 0U});
 }
 
 void FakeNetworkManager::followActivation()
 {
-    QList<DeviceStateReason> states;
-    quint32 activeState = 0;
-    {
-        const QMutexLocker lock(&m_mutex);
-        states = m_activationStates;
-        activeState = m_activeState;
-    }
-    for (const auto& state : states) {
+    const QMutexLocker lock(&m_mutex);
+    for (const auto& state : m_activationStates) {
         tellDeviceState(state);
     }
-    if (activeState != 0) {
-        tellActiveState(activeState);
+    if (m_activeState != 0) {
+        tellActiveState(m_activeState);
     }
 }
 
@@ -169,12 +150,6 @@ void FakeNetworkManager::setProperty(const QString& name, const QVariant& value)
 {
     const QMutexLocker lock(&m_mutex);
     m_properties[name] = value;
-}
-
-QVariant FakeNetworkManager::property(const QString& name) const
-{
-    const QMutexLocker lock(&m_mutex);
-    return m_properties.value(name);
 }
 
 void FakeNetworkManager::on(const QString& member, const Reaction& reaction)
@@ -238,17 +213,15 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
     if (member == u"GetPermissions"_s) {
         return call.createReply(QVariant::fromValue(m_permissions));
     }
-    if (member == u"GetDevices"_s) {
-        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(devicePath)}));
+    if (member == u"GetDevices"_s || member == u"GetAllAccessPoints"_s) {
+        const auto path = member == u"GetDevices"_s ? devicePath : accessPointPath;
+        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(path)}));
     }
     if (member == u"GetDeviceByIpIface"_s) {
         return call.arguments().value(0) == u"wlan0"_s
                    ? call.createReply(QVariant::fromValue(QDBusObjectPath(devicePath)))
                    : call.createErrorReply(u"org.freedesktop.NetworkManager.UnknownDevice"_s,
                                            u"No device found for the requested iface."_s);
-    }
-    if (member == u"GetAllAccessPoints"_s) {
-        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(accessPointPath)}));
     }
     if (member == u"AddAndActivateConnection2"_s || member == u"ActivateConnection"_s) {
         // After the answer.
@@ -263,10 +236,8 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
     if (member == u"Update2"_s) {
         return call.createReply(QVariantMap());
     }
-    if (member == u"Register"_s || member == u"DeactivateConnection"_s) {
-        return call.createReply();
-    }
-    if (member == u"RequestScan"_s && call.path() == devicePath) {
+    if (member == u"Register"_s || member == u"DeactivateConnection"_s ||
+        (member == u"RequestScan"_s && call.path() == devicePath)) {
         return call.createReply();
     }
     return call.createErrorReply(QDBusError::UnknownMethod, member);

@@ -55,7 +55,6 @@ public:
 
     /// By the last part of the interface's name and the property's, such as "Wireless.LastScan".
     void setProperty(const QString& name, const QVariant& value);
-    [[nodiscard]] QVariant property(const QString& name) const;
 
     /// Replaces the answer to a method, or by "Get Wireless.LastScan" and "Set ..." the one to a property's
     /// call.
@@ -69,7 +68,8 @@ public:
 
 private:
     void leaveBus();
-    void tell(const QString& path, const QString& interface, const QVariantList& arguments);
+    void tell(const QString& path, const QString& interface, const QString& signal,
+              const QVariantList& arguments = {});
     void followActivation();
     [[nodiscard]] QDBusMessage answer(const QString& member, const QDBusMessage& call);
     [[nodiscard]] QDBusMessage usualAnswer(const QString& member, const QDBusMessage& call);
