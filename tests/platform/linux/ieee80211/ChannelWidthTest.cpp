@@ -40,10 +40,9 @@ const QByteArray ht40 = htOperation(5);
 TEST(ChannelWidth, OfHtNeedsASecondHalfInUse)
 {
     EXPECT_EQ(width({}), CWChannelWidth::mhz20);
-    EXPECT_EQ(width(htOperation(0)), CWChannelWidth::mhz20);
-    EXPECT_EQ(width(htOperation(4)), CWChannelWidth::mhz20);
-    EXPECT_EQ(width(htOperation(1)), CWChannelWidth::mhz20);
-    EXPECT_EQ(width(htOperation(6)), CWChannelWidth::mhz20);
+    for (const int narrow : {0, 1, 4, 6}) {
+        EXPECT_EQ(width(htOperation(narrow)), CWChannelWidth::mhz20) << narrow;
+    }
     EXPECT_EQ(width(htOperation(5)), CWChannelWidth::mhz40);
     EXPECT_EQ(width(htOperation(7)), CWChannelWidth::mhz40);
     EXPECT_EQ(width(element(61, hex("2405"))), CWChannelWidth::mhz20);
