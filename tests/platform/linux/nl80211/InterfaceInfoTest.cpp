@@ -33,13 +33,11 @@ TEST(InterfaceInfo, IsOnePerMessage)
     EXPECT_EQ(first.ssid, QByteArray("a\xff"));
     EXPECT_EQ(first.transmitPower, 2050);
     EXPECT_FALSE(interfaces.value().last().ssid);
-    EXPECT_FALSE(interfaces.value().last().transmitPower);
 }
 
 TEST(InterfaceInfo, TurnsDecibelsIntoMilliwatts)
 {
     EXPECT_EQ(milliwatts(0), 1);
-    EXPECT_EQ(milliwatts(1000), 10);
     EXPECT_EQ(milliwatts(2050), 112);
     EXPECT_EQ(milliwatts(-2000), 0);
     EXPECT_GT(milliwatts(std::numeric_limits<std::int32_t>::max()), 0);

@@ -16,8 +16,6 @@ const QByteArray sae = element(48, hex("0100000fac040100000fac040100000fac080000
 BssEntry entry(const QByteArray& elements)
 {
     BssEntry made;
-    made.address = ieee80211::HardwareAddress{2, 0, 0, 0xab, 0, 1};
-    made.frequency = 5180;
     made.signal = -5550;
     made.capability = 0x11;
     made.elements = elements;
@@ -66,17 +64,6 @@ TEST(NetworkFromEntry, CountsTheSignalInWholeDecibels)
     EXPECT_EQ(networkFromEntry(heard).rssiValue, -70);
     heard.signalQuality = 255;
     EXPECT_EQ(networkFromEntry(heard).rssiValue, -50);
-}
-
-TEST(NetworkFromEntry, NumbersTheChannelAndTellsAdHocNetworks)
-{
-    BssEntry heard = entry({});
-    heard.capability = 0x12;
-    EXPECT_EQ(networkFromEntry(heard).bssid, QStringLiteral("02:00:00:ab:00:01"));
-    EXPECT_EQ(networkFromEntry(heard).wlanChannel, (CWChannel{36, 1}));
-    EXPECT_TRUE(networkFromEntry(heard).ibss);
-    heard.frequency = 5955;
-    EXPECT_EQ(networkFromEntry(heard).wlanChannel, (CWChannel{1, 1}));
 }
 
 } // namespace

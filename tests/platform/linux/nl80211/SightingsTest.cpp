@@ -40,28 +40,30 @@ Lines seen(const QList<BssEntry>& entries, const std::optional<QByteArray>& ssid
     return lines;
 }
 
-TEST(Sightings, AreHeardDuringThisScan)
+TEST(Sightings, AreHeardDuringThisScanAndHaveAnAddress)
 {
-    EXPECT_EQ(seen({heard(2, "b", started - 1ns), heard(3, "c", started), heard(1, "a", dumped)}),
-              Lines({"1 a-50", "3 c-50"}));
+    BssEntry nowhere = heard(4, "d", started);
+    nowhere.address = {};
+    EXPECT_EQ(
+        seen({heard(2, "b", started - 1ns), heard(3, "c", started), nowhere, nowhere, heard(1, "a", dumped)}),
+        Lines({"1 a-50", "3 c-50"}));
 }
 
 TEST(Sightings, GoByTheAgeWhereTheDriverTellsNoTime)
 {
-    BssEntry young = heard(1, "young", 0s);
-    young.lastSeenBootTime = {};
-    young.seenMillisecondsAgo = 4000;
-    BssEntry old = heard(2, "old", 0s);
-    old.lastSeenBootTime = {};
-    old.seenMillisecondsAgo = 4001;
+    const auto heardAgo = [](std::uint8_t address, const QByteArray& name, std::uint32_t milliseconds) {
+        BssEntry entry = heard(address, name, 0s);
+        entry.lastSeenBootTime = {};
+        entry.seenMillisecondsAgo = milliseconds;
+        return entry;
+    };
     BssEntry unknown = heard(3, "unknown", 0s);
     unknown.lastSeenBootTime = {};
     BssEntry lastSeenCounts = heard(4, "stale", started - 1s);
     lastSeenCounts.seenMillisecondsAgo = 1;
-    BssEntry older = heard(5, "older", 0s);
-    older.lastSeenBootTime = {};
-    older.seenMillisecondsAgo = ~0U;
-    EXPECT_EQ(seen({young, old, unknown, lastSeenCounts, older}), Lines({"1 young-50"}));
+    EXPECT_EQ(seen({heardAgo(1, "young", 4000), heardAgo(2, "old", 4001), unknown, lastSeenCounts,
+                    heardAgo(5, "older", ~0U)}),
+              Lines({"1 young-50"}));
 }
 
 TEST(Sightings, AreOnePerAddressTheNewestThatKnowsTheName)
@@ -90,13 +92,6 @@ TEST(HidesName, GoesByTheBeaconsOfThatAddress)
     EXPECT_TRUE(hidesName({answered, heard(1, {}, started)}, QStringLiteral("02:00:00:00:00:01")));
     answered.beaconElements = test::element(0, QByteArray(4, '\0'));
     EXPECT_TRUE(hidesName({answered}, QStringLiteral("02:00:00:00:00:01")));
-}
-
-TEST(Sightings, LeaveOutWhatHasNoAddress)
-{
-    BssEntry nameless = heard(1, "a", started);
-    nameless.address = {};
-    EXPECT_EQ(seen({nameless, nameless}), Lines());
 }
 
 } // namespace
