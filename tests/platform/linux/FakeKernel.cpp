@@ -45,21 +45,19 @@ private:
 
 FakeKernel::FakeKernel()
 {
-    InterfaceInfo info;
+    InterfaceInfo& info = interfaceList.emplaceBack();
     info.index = 3;
     info.name = u"wlan0"_s;
     info.type = NL80211_IFTYPE_STATION;
-    interfaceList = {info};
 }
 
 BssEntry& FakeKernel::hear(const QString& address, const QByteArray& ssid, std::chrono::milliseconds age)
 {
-    BssEntry entry;
+    BssEntry& entry = entries.emplaceBack();
     entry.address = addressOf(address);
     entry.lastSeenBootTime = static_cast<std::uint64_t>((nl80211::bootTimeNow() - age).count());
     entry.elements = QByteArray(1, '\0') + QByteArray(1, static_cast<char>(ssid.size())) + ssid;
-    entries.append(entry);
-    return entries.last();
+    return entry;
 }
 
 void FakeKernel::tell(ScanStage stage, const QList<QByteArray>& ssids)
@@ -83,16 +81,6 @@ std::optional<ScanEvent> FakeKernel::next(nl80211::ScanEvents::Deadline deadline
 Result<QList<InterfaceInfo>> FakeKernel::interfaces()
 {
     return failure ? Result<QList<InterfaceInfo>>(*failure) : interfaceList;
-}
-
-Result<QList<CWChannel>> FakeKernel::supportedChannels(std::uint32_t)
-{
-    return channels;
-}
-
-Result<QList<BssEntry>> FakeKernel::bssEntries(std::uint32_t)
-{
-    return entries;
 }
 
 Failure FakeKernel::triggerScan(std::uint32_t, const std::optional<QByteArray>&)

@@ -23,8 +23,11 @@ public:
     void tell(nl80211::ScanStage stage, const QList<QByteArray>& ssids = {});
 
     [[nodiscard]] Result<QList<nl80211::InterfaceInfo>> interfaces() override;
-    [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t radio) override;
-    [[nodiscard]] Result<QList<nl80211::BssEntry>> bssEntries(std::uint32_t interfaceIndex) override;
+
+    [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t) override { return channels; }
+
+    [[nodiscard]] Result<QList<nl80211::BssEntry>> bssEntries(std::uint32_t) override { return entries; }
+
     [[nodiscard]] Failure triggerScan(std::uint32_t interfaceIndex,
                                       const std::optional<QByteArray>& ssid) override;
     [[nodiscard]] Result<std::shared_ptr<nl80211::ScanEvents>>

@@ -22,6 +22,9 @@ using testing::ElementsAre;
 
 const auto joined = u"joined"_s;
 const auto stored = u"/org/freedesktop/NetworkManager/Settings/3"_s;
+const auto addAndActivate = u"AddAndActivateConnection2"_s;
+const auto activate = u"ActivateConnection"_s;
+const auto update = u"Update2"_s;
 const auto security = u"802-11-wireless-security"_s;
 const QList<DeviceStateReason> wrongPassword{{40, 0}, {50, 0}, {60, 8}, {120, 7}};
 
@@ -71,13 +74,15 @@ protected:
         return qdbus_cast<ConnectionSettings>(call.arguments().at(0));
     }
 
+    [[nodiscard]] static QString updateOf(const QString& profile) { return update + u' ' + profile; }
+
     /// The calls that change something, in their order.
     [[nodiscard]] QStringList changes() const
     {
         QStringList names;
-        for (const auto& name : {u"AddAndActivateConnection2"_s, u"Update2"_s, u"ActivateConnection"_s}) {
+        for (const auto& name : {addAndActivate, update, activate}) {
             for (const auto& call : m_fake->calls(name)) {
-                names.append(name == u"Update2"_s ? u"Update2 "_s + call.path() : name);
+                names.append(name == update ? updateOf(call.path()) : name);
             }
         }
         return names;
@@ -97,7 +102,7 @@ TEST_F(InterfaceJoinTest, keepsANewProfileOnceItHasJoined)
     m_kernel->hear(*m_network.bssid, "");
     m_kernel->hear(*m_network.bssid, "home");
     EXPECT_EQ(join(), joined);
-    const auto calls = m_fake->calls(u"AddAndActivateConnection2"_s);
+    const auto calls = m_fake->calls(addAndActivate);
     ASSERT_EQ(calls.size(), 1);
     const auto settings = settingsOf(calls.first());
     EXPECT_EQ(settings[u"802-11-wireless"_s][u"ssid"_s].toByteArray(), "home"_ba);
@@ -105,13 +110,12 @@ TEST_F(InterfaceJoinTest, keepsANewProfileOnceItHasJoined)
     EXPECT_EQ(settings[security][u"psk"_s], u"correct horse"_s);
     EXPECT_EQ(calls.first().arguments().at(2).value<QDBusObjectPath>().path(),
               FakeNetworkManager::accessPointPath);
-    EXPECT_THAT(changes(), ElementsAre(u"AddAndActivateConnection2"_s,
-                                       u"Update2 "_s + FakeNetworkManager::newProfilePath));
-    EXPECT_EQ(m_fake->calls(u"Update2"_s).first().arguments().at(1), 1U) << "to disk";
+    EXPECT_THAT(changes(), ElementsAre(addAndActivate, updateOf(FakeNetworkManager::newProfilePath)));
+    EXPECT_EQ(m_fake->calls(update).first().arguments().at(1), 1U) << "to disk";
 
     m_network.ssidData = "another"_ba;
     EXPECT_EQ(join(), joined);
-    EXPECT_EQ(m_fake->calls(u"AddAndActivateConnection2"_s).last().arguments().at(2).value<QDBusObjectPath>(),
+    EXPECT_EQ(m_fake->calls(addAndActivate).last().arguments().at(2).value<QDBusObjectPath>(),
               QDBusObjectPath(u"/"_s))
         << "NetworkManager has not heard that one";
 }
@@ -127,8 +131,8 @@ TEST_F(InterfaceJoinTest, aFailureKeepsNothingAndSaysWhy)
     EXPECT_EQ(join({}), u"The network needs a password"_s);
     EXPECT_EQ(join(u"short"_s), u"The password is not correct: it has 8 to 63 characters, or 64 hexadecimal "
                                 "digits"_s);
-    EXPECT_TRUE(m_fake->calls(u"Update2"_s).isEmpty());
-    EXPECT_EQ(m_fake->calls(u"AddAndActivateConnection2"_s).size(), 3);
+    EXPECT_TRUE(m_fake->calls(update).isEmpty());
+    EXPECT_EQ(m_fake->calls(addAndActivate).size(), 3);
 }
 
 TEST_F(InterfaceJoinTest, aStoredProfileJoinsByItself)
@@ -139,10 +143,8 @@ TEST_F(InterfaceJoinTest, aStoredProfileJoinsByItself)
     EXPECT_EQ(join(u"correct horse"_s), joined);
     m_fake->setActivation(wrongPassword, 4);
     EXPECT_EQ(join({}), u"The password is not correct"_s);
-    EXPECT_EQ(changes(), QStringList(4, u"ActivateConnection"_s));
-    EXPECT_EQ(
-        m_fake->calls(u"ActivateConnection"_s).first().arguments().at(0).value<QDBusObjectPath>().path(),
-        stored);
+    EXPECT_EQ(changes(), QStringList(4, activate));
+    EXPECT_EQ(m_fake->calls(activate).first().arguments().at(0).value<QDBusObjectPath>().path(), stored);
 }
 
 TEST_F(InterfaceJoinTest, aStoredProfileIsForItsKindOfSecurityAlone)
@@ -151,10 +153,9 @@ TEST_F(InterfaceJoinTest, aStoredProfileIsForItsKindOfSecurityAlone)
     m_network.securityCodes = {};
     m_network.securityCodes.insert(static_cast<int>(CWSecurity::none));
     EXPECT_EQ(join({}), joined);
-    ASSERT_THAT(changes(), ElementsAre(u"AddAndActivateConnection2"_s,
-                                       u"Update2 "_s + FakeNetworkManager::newProfilePath))
+    ASSERT_THAT(changes(), ElementsAre(addAndActivate, updateOf(FakeNetworkManager::newProfilePath)))
         << "an open network of the same name";
-    EXPECT_FALSE(settingsOf(m_fake->calls(u"AddAndActivateConnection2"_s).first()).contains(security));
+    EXPECT_FALSE(settingsOf(m_fake->calls(addAndActivate).first()).contains(security));
 }
 
 TEST_F(InterfaceJoinTest, aStoredProfileTakesAPasswordOnlyOnceItHasJoined)
@@ -162,22 +163,21 @@ TEST_F(InterfaceJoinTest, aStoredProfileTakesAPasswordOnlyOnceItHasJoined)
     store(u"old horse"_s);
     m_fake->setActivation(wrongPassword, 4);
     EXPECT_EQ(join(), u"The password is not correct"_s);
-    EXPECT_THAT(changes(), ElementsAre(u"AddAndActivateConnection2"_s));
+    EXPECT_THAT(changes(), ElementsAre(addAndActivate));
 
     m_fake->setActivation({{40, 0}, {100, 0}}, 2);
     EXPECT_EQ(join(), joined);
-    EXPECT_THAT(changes(), ElementsAre(u"AddAndActivateConnection2"_s, u"AddAndActivateConnection2"_s,
-                                       u"Update2 "_s + stored, u"ActivateConnection"_s));
-    const auto updated = settingsOf(m_fake->calls(u"Update2"_s).first());
+    EXPECT_THAT(changes(), ElementsAre(addAndActivate, addAndActivate, updateOf(stored), activate));
+    const auto updated = settingsOf(m_fake->calls(update).first());
     EXPECT_EQ(updated[security][u"psk"_s], u"correct horse"_s);
     EXPECT_EQ(updated[security][u"key-mgmt"_s], u"sae"_s);
     EXPECT_EQ(updated[u"connection"_s][u"id"_s], u"Home"_s);
     EXPECT_EQ(qdbus_cast<QList<QList<uint>>>(updated[u"ipv4"_s][u"addresses"_s]),
               (QList<QList<uint>>{{1, 24, 2}}));
 
-    m_fake->on(u"Update2"_s, refuse(u"org.freedesktop.NetworkManager.Settings.PermissionDenied"_s));
+    m_fake->on(update, refuse(u"org.freedesktop.NetworkManager.Settings.PermissionDenied"_s));
     EXPECT_EQ(join(), joined);
-    EXPECT_EQ(m_fake->calls(u"ActivateConnection"_s).size(), 1);
+    EXPECT_EQ(m_fake->calls(activate).size(), 1);
     EXPECT_THAT(m_log.take(), ElementsAre(testing::Truly([](const QString& line) {
                     return line.startsWith(u"The network's password could not be stored"_s);
                 })));
@@ -197,19 +197,17 @@ TEST_F(InterfaceJoinTest, windowsLiveOnWhileTheDesktopIsAskedForThePassword)
     });
     EXPECT_EQ(join(), joined);
     EXPECT_TRUE(inTime);
-    EXPECT_EQ(changes(), QStringList(u"ActivateConnection"_s));
+    EXPECT_EQ(changes(), QStringList(activate));
 }
 
 TEST_F(InterfaceJoinTest, saysWhatStandsInTheWay)
 {
     for (const auto& denied : {u"org.freedesktop.NetworkManager.PermissionDenied"_s,
                                u"org.freedesktop.NetworkManager.Settings.PermissionDenied"_s}) {
-        m_fake->on(u"AddAndActivateConnection2"_s, refuse(denied));
+        m_fake->on(addAndActivate, refuse(denied));
         EXPECT_EQ(join(), u"The system does not permit this user to join networks"_s);
     }
-    m_fake->on(u"AddAndActivateConnection2"_s, {});
-    m_fake->setActivation({{40, 0}, {20, 0}}, 0);
-    m_fake->on(u"AddAndActivateConnection2"_s, [this](const QDBusMessage& call) {
+    m_fake->on(addAndActivate, [this](const QDBusMessage& call) {
         m_fake->setProperty(u"NetworkManager.WirelessEnabled"_s, false);
         m_fake->tellActiveState(4);
         return call.createReply({QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::newProfilePath)),
@@ -217,7 +215,7 @@ TEST_F(InterfaceJoinTest, saysWhatStandsInTheWay)
                                  QVariantMap()});
     });
     EXPECT_EQ(join(), u"The Wi-Fi radio is off"_s) << "switched off meanwhile";
-    const auto attempts = m_fake->calls(u"AddAndActivateConnection2"_s).size();
+    const auto attempts = m_fake->calls(addAndActivate).size();
     EXPECT_EQ(join(), u"The Wi-Fi radio is off"_s);
     m_fake->setProperty(u"NetworkManager.WirelessEnabled"_s, true);
     m_fake->setProperty(u"Device.StateReason"_s, QVariant::fromValue(DeviceStateReason{10, 0}));
@@ -230,7 +228,7 @@ TEST_F(InterfaceJoinTest, saysWhatStandsInTheWay)
     EXPECT_EQ(join(), u"The Wi-Fi interface wlan0 is gone"_s);
     m_network.ssidData.clear();
     EXPECT_EQ(join(), u"The network's name is not known"_s);
-    EXPECT_EQ(m_fake->calls(u"AddAndActivateConnection2"_s).size(), attempts);
+    EXPECT_EQ(m_fake->calls(addAndActivate).size(), attempts);
 }
 
 } // namespace

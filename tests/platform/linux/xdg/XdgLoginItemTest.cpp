@@ -1,10 +1,8 @@
 #include "platform/linux/xdg/XdgLoginItem.h"
 
+#include "support/Files.h"
 #include "support/Printing.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -18,19 +16,7 @@ namespace {
 class XdgLoginItemTest : public testing::Test
 {
 protected:
-    void write(const QByteArray& entry)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        file.write(entry);
-    }
-
-    QByteArray entry() const
-    {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray entry() const { return bytesIn(path); }
 
     QTemporaryDir config;
     QString path = config.filePath(u"autostart/org.aerolith.Aerolith.desktop"_s);
@@ -81,8 +67,9 @@ TEST_F(XdgLoginItemTest, QuotesAnyPath)
 
 TEST_F(XdgLoginItemTest, KeepsWhatElseIsInAnEntry)
 {
-    write("# mine\n[Desktop Entry]\nName=Mine\nHidden = true\nExec=/old --quiet\nExec=/older\n"
-          "X-KDE-Delay=5\nX-GNOME-Autostart-enabled=false\n\n[Desktop Action x]\nExec=/other\nHidden=true");
+    putFile(path,
+            "# mine\n[Desktop Entry]\nName=Mine\nHidden = true\nExec=/old --quiet\nExec=/older\n"
+            "X-KDE-Delay=5\nX-GNOME-Autostart-enabled=false\n\n[Desktop Action x]\nExec=/other\nHidden=true");
     EXPECT_FALSE(item.isEnabled());
     EXPECT_FALSE(item.setEnabled(true));
     EXPECT_TRUE(item.isEnabled());
@@ -105,7 +92,7 @@ TEST_F(XdgLoginItemTest, ReadsTheStateThatOthersHaveSet)
         {"", false},
     };
     for (const auto& [contents, enabled] : cases) {
-        write(contents);
+        putFile(path, contents);
         EXPECT_EQ(item.isEnabled(), enabled) << contents.toStdString();
         EXPECT_FALSE(item.setEnabled(true));
         EXPECT_TRUE(item.isEnabled()) << entry().toStdString();

@@ -1,10 +1,9 @@
 #include "platform/linux/xdg/XdgWorkspace.h"
 
+#include "support/Files.h"
 #include "support/Printing.h"
 
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -30,24 +29,21 @@ protected:
 
     void install(const QString& program)
     {
-        QFile file(bin.filePath(program));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
         const QByteArray called = QFile::encodeName(calledFile());
-        file.write("#!/bin/sh\nprintf '%s\\n' \"${0##*/}\" \"$@\" >'" + called + ".new'\n" + "/bin/mv '" +
-                   called + ".new' '" + called + "'\n/bin/sleep 3\n");
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        putFile(bin.filePath(program), "#!/bin/sh\nprintf '%s\\n' \"${0##*/}\" \"$@\" >'" + called +
+                                           ".new'\n" + "/bin/mv '" + called + ".new' '" + called +
+                                           "'\n/bin/sleep 3\n");
+        QFile::setPermissions(bin.filePath(program), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     /// The program and the arguments of the call, one in a line; waits for it.
     QString call() const
     {
-        QFile file(calledFile());
-        for (const QDeadlineTimer deadline(5000); !file.exists() && !deadline.hasExpired();) {
+        for (const QDeadlineTimer deadline(5000); !QFile::exists(calledFile()) && !deadline.hasExpired();) {
             QThread::msleep(5);
         }
-        EXPECT_TRUE(file.open(QFile::ReadOnly));
-        QString lines = QString::fromUtf8(file.readAll()).trimmed();
-        file.remove();
+        const QString lines = QString::fromUtf8(bytesIn(calledFile())).trimmed();
+        QFile::remove(calledFile());
         return lines;
     }
 
