@@ -18,20 +18,11 @@ namespace {
 class QtMainQueueTest : public testing::Test
 {
 protected:
-    /// Runs the event loop until a task quits it.
-    void runLoop() { m_loop.exec(); }
-
-    Task quit()
-    {
-        return [this] { m_loop.quit(); };
-    }
-
-    QtMainQueue m_queue;
-
-private:
     int m_argc = 0;
     QCoreApplication m_application{m_argc, nullptr};
     QEventLoop m_loop;
+    Task m_quit = [this] { m_loop.quit(); };
+    QtMainQueue m_queue;
 };
 
 } // namespace
@@ -44,35 +35,30 @@ TEST_F(QtMainQueueTest, RunsTasksOfEveryThreadInOrderOnALaterTurn)
         m_queue.async([&] {
             order += 'b';
             m_queue.async([&] { order += 'd'; });
-            m_queue.async(quit());
+            m_queue.async(m_quit);
         });
     }).join();
     m_queue.async([&] { order += 'c'; });
     EXPECT_EQ(order, "");
-    runLoop();
+    m_loop.exec();
     EXPECT_EQ(order, "abcd");
 }
 
-TEST_F(QtMainQueueTest, DelaysAtLeastAsLongAsAsked)
-{
-    const auto start = std::chrono::steady_clock::now();
-    m_queue.asyncAfter(Seconds(0.02), quit());
-    runLoop();
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20));
-}
-
-TEST_F(QtMainQueueTest, EndsATimerFromItsOwnTask)
+TEST_F(QtMainQueueTest, EndsATimerFromItsOwnTaskAndDelaysAtLeastAsLongAsAsked)
 {
     int ticks = 0;
     std::unique_ptr<RepeatingTimer> timer;
+    std::chrono::steady_clock::time_point ended;
     timer = m_queue.scheduledTimer(Seconds(0.001), [&] {
         if (++ticks == 3) {
             timer.reset();
-            m_queue.asyncAfter(Seconds(0.01), quit());
+            ended = std::chrono::steady_clock::now();
+            m_queue.asyncAfter(Seconds(0.02), m_quit);
         }
     });
-    runLoop();
+    m_loop.exec();
     EXPECT_EQ(ticks, 3);
+    EXPECT_GE(std::chrono::steady_clock::now() - ended, std::chrono::milliseconds(20));
     EXPECT_TRUE(m_queue.scheduledTimer(Seconds(1e300), [] {})) << "beyond what a timer can count";
 }
 
@@ -84,8 +70,8 @@ TEST_F(QtMainQueueTest, DropsWhatWaitsWhenItEnds)
         queue.async([&] { ran = true; });
         queue.asyncAfter(Seconds(0), [&] { ran = true; });
     }
-    m_queue.asyncAfter(Seconds(0.005), quit());
-    runLoop();
+    m_queue.asyncAfter(Seconds(0.005), m_quit);
+    m_loop.exec();
     EXPECT_FALSE(ran);
 }
 

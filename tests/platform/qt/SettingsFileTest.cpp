@@ -1,10 +1,9 @@
 #include "platform/qt/SettingsFile.h"
 
+#include "support/Files.h"
 #include "support/Printing.h"
 #include "support/RecordingLog.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -20,19 +19,6 @@ namespace {
 class SettingsFileTest : public testing::Test
 {
 protected:
-    void write(const QByteArray& contents)
-    {
-        QFile file(m_path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-    }
-
-    QByteArray contents()
-    {
-        QFile file(m_path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     RecordingLog m_log;
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"aerolith/aerolith.conf"_s);
@@ -48,8 +34,8 @@ TEST_F(SettingsFileTest, KeepsValuesForTheNextStart)
         settings.setDouble(15, u"scanInterval"_s);
         settings.setInteger(std::numeric_limits<qint64>::min(), u"historyLimit"_s);
         settings.setData("[\"aa:bb\",\"cc:dd\"]", u"hiddenBSSIDs"_s);
-        EXPECT_TRUE(contents().contains(R"~(hiddenBSSIDs="@ByteArray([\"aa:bb\",\"cc:dd\"])")~"))
-            << contents().toStdString();
+        EXPECT_TRUE(bytesIn(m_path).contains(R"~(hiddenBSSIDs="@ByteArray([\"aa:bb\",\"cc:dd\"])")~"))
+            << bytesIn(m_path).toStdString();
     }
     const SettingsFile settings(m_path, m_log);
     EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 15.0);
@@ -60,9 +46,8 @@ TEST_F(SettingsFileTest, KeepsValuesForTheNextStart)
 
 TEST_F(SettingsFileTest, ReadsWhatAPersonHasWritten)
 {
-    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
-    write("scanInterval=15\nhistoryLimit=20\nhiddenBSSIDs=\"@ByteArray([\\\"aa:bb\\\"])\"\n"
-          "asText=\"[\\\"aa:bb\\\"]\"\n");
+    putFile(m_path, "scanInterval=15\nhistoryLimit=20\nhiddenBSSIDs=\"@ByteArray([\\\"aa:bb\\\"])\"\n"
+                    "asText=\"[\\\"aa:bb\\\"]\"\n");
     const SettingsFile settings(m_path, m_log);
     EXPECT_EQ(settings.doubleForKey(u"scanInterval"_s), 15.0);
     EXPECT_EQ(settings.integerForKey(u"historyLimit"_s), 20);
@@ -72,12 +57,11 @@ TEST_F(SettingsFileTest, ReadsWhatAPersonHasWritten)
 
 TEST_F(SettingsFileTest, CountsNonsenseAsAbsentAndStaysUsable)
 {
-    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
     for (const QByteArray& nonsense :
          {QByteArray("scanInterval=nan\nhistoryLimit=9e99\nhiddenBSSIDs=1, 2, 3\n"),
           QByteArray("scanInterval=ten\nhistoryLimit=\nhiddenBSSIDs=@Variant(\\0\\0\\0\\x7f\\0)\n"),
           QByteArray("[[[\n\xff\xfe\0=%zz\nscanInterval\n", 26), QByteArray(5000, '%')}) {
-        write(nonsense);
+        putFile(m_path, nonsense);
         SettingsFile settings(m_path, m_log);
         EXPECT_FALSE(settings.doubleForKey(u"scanInterval"_s)) << nonsense.toStdString();
         EXPECT_FALSE(settings.integerForKey(u"historyLimit"_s));
@@ -108,10 +92,9 @@ TEST_F(SettingsFileTest, IsItsOwnersAlone)
 
 TEST_F(SettingsFileTest, KeepsQtFromValuesThatTheProgramDoesNotStore)
 {
-    QDir().mkpath(m_folder.filePath(u"aerolith"_s));
     // A list of four thousand million texts, by one damaged byte; the other number is whole.
-    write("historyLimit=20\nscanInterval=@Variant(\\0\\0\\0\\xB\\xff\\xff\\xff\\xf0\\0\\0)\n"
-          "other=@Variant(\\0\\0\\0\\x6@.\\0\\0\\0\\0\\0\\0)\n");
+    putFile(m_path, "historyLimit=20\nscanInterval=@Variant(\\0\\0\\0\\xB\\xff\\xff\\xff\\xf0\\0\\0)\n"
+                    "other=@Variant(\\0\\0\\0\\x6@.\\0\\0\\0\\0\\0\\0)\n");
     SettingsFile settings(m_path, m_log);
     EXPECT_EQ(m_log.take(), QStringList(u"The settings file %1 is malformed: what cannot be read counts as "
                                         "not set"_s.arg(m_path)));

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 using namespace aerolith;
 using namespace Qt::StringLiterals;
 
@@ -17,16 +15,4 @@ TEST(StandardLog, KeepsHostileNamesOnTheirLine)
               u"\\u{202e}abc\\u{2066}\\u{2028}\\u{85}\\u{7f}"_s);
     EXPECT_EQ(escapedForLog(u"Caf\u00e9 \U0001f375 100 % \\ \"q\""_s),
               u"Caf\u00e9 \U0001f375 100 % \\ \"q\""_s);
-}
-
-TEST(StandardLog, WritesOneLineAtOnce)
-{
-    std::FILE* stream = std::tmpfile();
-    ASSERT_TRUE(stream);
-    StandardLog(stream).line(u"Found 2 networks"_s);
-    std::rewind(stream);
-    std::array<char, 64> text{};
-    EXPECT_EQ(std::fread(text.data(), 1, text.size(), stream), 17U);
-    EXPECT_STREQ(text.data(), "Found 2 networks\n");
-    std::fclose(stream);
 }
