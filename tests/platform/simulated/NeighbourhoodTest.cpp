@@ -18,16 +18,12 @@ TEST(Neighbourhood, showsEveryKindOfAccessPoint)
     quint64 securityCodes = 0;
     quint64 phyModeCodes = 0;
     QSet<int> widths;
-    QSet<QString> countries;
-    bool hasHiddenName = false;
     for (const ScenarioCycle& cycle : scenario.cycles) {
         bool hearsJoined = false;
         for (const CWNetwork& network : cycle.networks) {
             securityCodes |= network.securityCodes.bits();
             phyModeCodes |= network.phyModeCodes.bits();
             widths.insert(network.wlanChannel->channelWidth);
-            countries.insert(network.countryCode.value_or(QString()));
-            hasHiddenName |= !network.ssid;
             hearsJoined |= network.bssid == cycle.joined->bssid && network.ssid == cycle.joined->ssid;
             EXPECT_LE(network.ssidData.size(), 32);
             EXPECT_EQ(network.ssidData, network.ssid.value_or(QString()).toUtf8());
@@ -37,8 +33,6 @@ TEST(Neighbourhood, showsEveryKindOfAccessPoint)
     EXPECT_EQ(securityCodes, 0x7fffU);
     EXPECT_EQ(phyModeCodes, 0x7eU);
     EXPECT_EQ(widths, (QSet<int>{1, 2, 3, 4}));
-    EXPECT_GE(countries.size(), 3);
-    EXPECT_TRUE(hasHiddenName);
 }
 
 /// Guards against arithmetic that differs from machine to machine, or from one compiler to the next.
