@@ -30,9 +30,3 @@ TEST(HiddenList, ReadsAnyJsonArrayOfStringsAndNothingElse)
         EXPECT_EQ(decodeHiddenBSSIDs(stored), QStringList()) << stored.toStdString();
     }
 }
-
-TEST(HiddenList, HidesNothingByDefault)
-{
-    const MemoryDefaults defaults;
-    EXPECT_FALSE(isHidden(defaults, u"aa:bb"_s));
-}

@@ -55,6 +55,7 @@ TEST(WiFiScannerList, HidesAndShows)
 {
     Engine engine;
     engine.cycle(threeNetworks());
+    EXPECT_FALSE(engine.scanner->isHidden(u"cc"_s));
     engine.scanner->hideNetwork(u"cc"_s);
     engine.scanner->hideNetwork(u"cc"_s);
     engine.main.drain();

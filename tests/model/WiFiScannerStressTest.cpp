@@ -15,10 +15,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <random>
 #include <semaphore>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace aerolith;
 using namespace Qt::StringLiterals;
@@ -165,11 +167,8 @@ public:
         ASSERT_EQ(bssidsOf(networks), bssidsOf(histories));
         ASSERT_EQ(bssidsOf(networks), bssidsOf(m_scanner->lastSeenTimestamp()));
         // A cycle that finds nothing out cuts no history.
-        if (m_scanner->status() == ScannerStatus::idle) {
-            m_bound = m_largestLimit;
-        } else {
-            m_bound = std::max(m_bound, m_largestLimit);
-        }
+        const bool isCut = m_scanner->status() == ScannerStatus::idle;
+        m_bound = isCut ? m_largestLimit : std::max(m_bound, m_largestLimit);
         for (const auto entry : networks) {
             checkHistory(entry.value, histories.find(entry.bssid).value());
         }
@@ -182,61 +181,13 @@ private:
     void act(int times)
     {
         for (int i = 0; i < times; ++i) {
-            act();
+            m_actions[static_cast<std::size_t>(m_dice.below(static_cast<int>(m_actions.size())))]();
         }
     }
 
-    void act()
+    void hideOrShow()
     {
-        switch (m_dice.below(15)) {
-        case 0:
-            m_scanner->scanNetworks();
-            break;
-        case 1:
-            m_scanner->clearNetworks();
-            break;
-        case 2:
-        case 3:
-            hideOrShow(address(m_dice.below(20)));
-            break;
-        case 4:
-            m_scanner->setShowHiddenNetworks(m_dice.oneIn(2));
-            break;
-        case 5:
-            m_scanner->setSortOption(static_cast<SortOption>(m_dice.below(4)));
-            break;
-        case 6:
-        case 7:
-            select();
-            break;
-        case 8:
-            m_selection.clearSelection();
-            m_chosen.append(std::nullopt);
-            break;
-        case 9:
-            setHistoryLimit();
-            break;
-        case 10:
-            defaults.setDouble(m_dice.below(4), SettingKeys::scanInterval);
-            m_scanner->startTimer();
-            break;
-        case 11:
-            setAccess();
-            break;
-        case 12:
-            m_radio.switchPower(!m_dice.oneIn(4));
-            m_radio.setPluggedIn(!m_dice.oneIn(4));
-            break;
-        case 13:
-            (void)m_scanner->findNetwork(u"Net 3"_s);
-            break;
-        default:
-            main.runOne();
-        }
-    }
-
-    void hideOrShow(const QString& bssid)
-    {
+        const QString bssid = address(m_dice.below(20));
         if (m_scanner->isHidden(bssid)) {
             m_scanner->unhideNetwork(bssid);
         } else {
@@ -302,6 +253,33 @@ private:
     SelectionStore m_selection{main};
     std::optional<WiFiScanner> m_scanner;
     std::optional<ScanThread> m_scanThread;
+    /// What the user may do, each as often as the others; what stands twice, twice as often.
+    const std::vector<std::function<void()>> m_actions{
+        [this] { m_scanner->scanNetworks(); },
+        [this] { m_scanner->clearNetworks(); },
+        [this] { hideOrShow(); },
+        [this] { hideOrShow(); },
+        [this] { m_scanner->setShowHiddenNetworks(m_dice.oneIn(2)); },
+        [this] { m_scanner->setSortOption(static_cast<SortOption>(m_dice.below(4))); },
+        [this] { select(); },
+        [this] { select(); },
+        [this] {
+            m_selection.clearSelection();
+            m_chosen.append(std::nullopt);
+        },
+        [this] { setHistoryLimit(); },
+        [this] {
+            defaults.setDouble(m_dice.below(4), SettingKeys::scanInterval);
+            m_scanner->startTimer();
+        },
+        [this] { setAccess(); },
+        [this] {
+            m_radio.switchPower(!m_dice.oneIn(4));
+            m_radio.setPluggedIn(!m_dice.oneIn(4));
+        },
+        [this] { (void)m_scanner->findNetwork(u"Net 3"_s); },
+        [this] { main.runOne(); },
+    };
     /// Selected before the cycle, and chosen during it.
     std::optional<QString> m_before;
     QList<std::optional<QString>> m_chosen;
