@@ -1,6 +1,7 @@
 #include "update/HttpsServer.h"
 
-#include <QFile>
+#include "support/Files.h"
+
 #include <QProcess>
 #include <QSslCertificate>
 #include <QSslKey>
@@ -43,11 +44,7 @@ struct Certificates
             << openssl.readAllStandardError().toStdString();
     }
 
-    [[nodiscard]] QByteArray read(const QString& name) const
-    {
-        QFile file(folder.filePath(name));
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray read(const QString& name) const { return bytesIn(folder.filePath(name)); }
 
     QTemporaryDir folder;
     QSslCertificate authority;

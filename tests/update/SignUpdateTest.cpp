@@ -1,9 +1,9 @@
 // The script that signs new versions, against the program that checks them.
 
+#include "support/Files.h"
 #include "support/Printing.h"
 #include "update/Appcast.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -39,11 +39,11 @@ TEST(SignUpdate, AnnouncesWhatTheProgramAccepts)
     const QString script = QStringLiteral(AEROLITH_SIGN_UPDATE);
     outputOf(u"openssl"_s, {u"genpkey"_s, u"-algorithm"_s, u"ed25519"_s, u"-out"_s, keyPath});
     const QByteArray program = QByteArray("program\0", 8).repeated(1000);
-    QFile file(folder.filePath(u"a program.deb"_s));
-    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(program) == program.size() && file.flush());
+    const QString programPath = folder.filePath(u"a program.deb"_s);
+    putFile(programPath, program);
 
     const QString url = u"https://example.org/?a=1&b=2"_s;
-    const QByteArray enclosure = outputOf(script, {keyPath, u"1.2-rc.1"_s, url, file.fileName()});
+    const QByteArray enclosure = outputOf(script, {keyPath, u"1.2-rc.1"_s, url, programPath});
     const auto items = parseAppcast("<rss version='2.0' xmlns:aerolith='https://aerolith.example/appcast'>"
                                     "<channel><item>" +
                                     enclosure + "</item></channel></rss>");
