@@ -27,19 +27,14 @@ TEST(NetworkJson, WritesRecordsForMachines)
     EXPECT_TRUE(list[1].toObject()[u"countryCode"_s].isNull());
 }
 
-TEST(NetworkJson, KeepsTheBytesOfANameBesideItsText)
+TEST(NetworkJson, DetailsHoldTheBytesOfTheNameAndTheHistoryOldestFirst)
 {
-    WiFiNetwork network = cornerCafe();
+    WiFiNetwork network = harborLoft();
     network.ssidBytes = QByteArray("\xff\x00\"", 3);
     network.ssid = u"\ufffd\0\""_s;
-    const QJsonObject object = QJsonDocument::fromJson(networkDetailsJson(network)).object();
-    EXPECT_EQ(object[u"ssid"_s], QJsonValue(network.ssid));
-    EXPECT_EQ(object[u"ssidBytes"_s], QJsonValue(u"ff0022"_s));
-}
-
-TEST(NetworkJson, DetailsHoldTheHistoryOldestFirst)
-{
-    const QJsonObject details = QJsonDocument::fromJson(networkDetailsJson(harborLoft())).object();
+    const QJsonObject details = QJsonDocument::fromJson(networkDetailsJson(network)).object();
+    EXPECT_EQ(details[u"ssid"_s], QJsonValue(network.ssid));
+    EXPECT_EQ(details[u"ssidBytes"_s], QJsonValue(u"ff0022"_s));
     EXPECT_EQ(details[u"snr"_s], QJsonValue(32));
     const QJsonArray history = details[u"signalHistory"_s].toArray();
     ASSERT_EQ(history.size(), 3);
