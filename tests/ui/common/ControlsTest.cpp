@@ -1,9 +1,12 @@
+#include "ui/Colours.h"
 #include "ui/common/Spinner.h"
 #include "ui/common/Switch.h"
 #include "ui/common/SwitchHeader.h"
 #include "ui/common/SymbolButton.h"
+#include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
 
+#include <QDir>
 #include <QImage>
 #include <QLabel>
 #include <QStyle>
@@ -15,37 +18,38 @@ namespace aerolith {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QColor darkest(const QImage& image)
+TEST(Symbols, AreDrawnInTheirColourAtTheDevicesPixels)
 {
-    QColor found = Qt::white;
-    for (int y = 0; y < image.height(); ++y) {
+    const QStringList files = QDir(u":/aerolith/symbols"_s).entryList({u"*.svg"_s});
+    ASSERT_FALSE(files.isEmpty());
+    for (const QString& file : files) {
+        SCOPED_TRACE(file.toStdString());
+        const QPixmap pixmap = Symbols::pixmap(file.chopped(4), 12, QColor(255, 0, 0), 2);
+        EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(12, 12));
+        const QImage image = pixmap.toImage();
+        EXPECT_EQ(image.size(), QSize(24, 24));
+        const QImage mean = image.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        EXPECT_NEAR(mean.pixelColor(0, 0).alphaF(), 0.5, 0.4) << "empty, or a block";
         for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            found = pixel.lightness() < found.lightness() ? pixel : found;
+            const QColor pixel = image.pixelColor(x, 12);
+            EXPECT_TRUE(pixel.alpha() < 128 || (pixel.red() > 250 && pixel.green() == 0));
+            EXPECT_EQ(image.pixelColor(x, 0).alpha(), 0) << "reaches the edge";
         }
     }
-    return found;
 }
-
-} // namespace
 
 TEST(SymbolButton, FollowsItsPaletteAndFadesWhenDisabled)
 {
     SymbolButton button(u"trash"_s, u"Clear"_s);
+    const auto contrast = [&button] { return contrastWithin(button.grab().toImage()); };
     QPalette palette;
     palette.setColor(QPalette::Window, Qt::white);
     palette.setColor(QPalette::ButtonText, Qt::black);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
     button.setPalette(palette);
-    EXPECT_LT(darkest(button.grab().toImage()).lightness(), 60);
+    EXPECT_GT(contrast(), 10);
     button.setEnabled(false);
-    EXPECT_GT(darkest(button.grab().toImage()).lightness(), 120);
-    button.setEnabled(true);
-    palette.setColor(QPalette::ButtonText, Qt::red);
-    button.setPalette(palette);
-    EXPECT_GT(darkest(button.grab().toImage()).red(), 200);
+    EXPECT_LT(contrast(), 4.5);
 }
 
 TEST(Controls, ShowThatTheKeyboardIsAtThem)
@@ -70,10 +74,8 @@ TEST(Controls, ShowThatTheKeyboardIsAtThem)
 TEST(Spinner, TurnsOnlyWhileItIsShown)
 {
     Spinner spinner;
-    EXPECT_FALSE(spinner.isTurning());
     spinner.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&spinner));
-    EXPECT_TRUE(spinner.isTurning());
     const QImage first = spinner.grab().toImage();
     EXPECT_TRUE(QTest::qWaitFor([&] { return spinner.grab().toImage() != first; }, 2000));
     spinner.hide();

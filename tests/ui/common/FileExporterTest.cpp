@@ -4,8 +4,6 @@
 #include "ui/SavedFiles.h"
 
 #include <QDir>
-#include <QFileDialog>
-#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -55,21 +53,6 @@ TEST_F(FileExporterTest, LogsWhatCannotBeWritten)
     ASSERT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines.first().contains(nowhere));
     EXPECT_TRUE(lines.first().contains(u"No such file or directory"_s));
-}
-
-TEST_F(FileExporterTest, AsksByADialogOverTheWindowAlone)
-{
-    QTemporaryDir folder;
-    view.show();
-    QString chosen;
-    FileExporter::askByDialog(view, folder.filePath(u"list.csv"_s),
-                              [&](const QString& path) { chosen = path; });
-    auto* dialog = view.findChild<QFileDialog*>(u"saveDialog"_s);
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(chosen, folder.filePath(u"list.csv"_s));
 }
 
 } // namespace aerolith

@@ -4,32 +4,25 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace aerolith {
 
-TEST(OncePerTurn, RunsOnceForManyRequestsAndAgainForTheNext)
+TEST(OncePerTurn, RunsOnceForManyRequestsAndNoMoreOnceItIsGone)
 {
     int runs = 0;
-    OncePerTurn update([&] { ++runs; });
-    update.request();
-    update.request();
-    EXPECT_EQ(runs, 0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(runs, 1);
-
-    update.request();
+    std::optional<OncePerTurn> update(std::in_place, [&] { ++runs; });
+    for (const int expected : {1, 2}) {
+        update->request();
+        update->request();
+        EXPECT_EQ(runs, expected - 1) << "on a later turn";
+        QCoreApplication::processEvents();
+        EXPECT_EQ(runs, expected);
+    }
+    update->request();
+    update.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(runs, 2);
-}
-
-TEST(OncePerTurn, RunsNoMoreOnceItIsGone)
-{
-    int runs = 0;
-    {
-        OncePerTurn update([&] { ++runs; });
-        update.request();
-    }
-    QCoreApplication::processEvents();
-    EXPECT_EQ(runs, 0);
 }
 
 } // namespace aerolith

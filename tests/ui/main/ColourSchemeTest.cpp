@@ -1,4 +1,4 @@
-#include "ui/Contrast.h"
+#include "ui/Colours.h"
 #include "ui/main/WindowDriver.h"
 
 #include <QApplication>

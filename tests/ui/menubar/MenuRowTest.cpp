@@ -1,6 +1,6 @@
 #include "support/HostileNames.h"
 #include "support/Printing.h"
-#include "ui/Contrast.h"
+#include "ui/Colours.h"
 #include "ui/common/Theme.h"
 #include "ui/menubar/NetworkRowInMenu.h"
 
