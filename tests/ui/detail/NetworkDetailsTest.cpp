@@ -64,10 +64,8 @@ TEST(NetworkDetails, FollowTheUnusual)
     const NetworkDetails details(network);
     EXPECT_EQ(texts(details.signalOverview).last(), u"SNR: -3 dB"_s);
     EXPECT_EQ(texts(details.networkInformation).first(), u"SSID: "_s);
-    EXPECT_EQ(texts(details.networkInformation).size(), 7);
     EXPECT_EQ(texts(details.networkInformation).last(), u"Country: DE"_s);
-    EXPECT_EQ(texts(details.advanced)[1], u"Network Type: Ad-Hoc"_s);
-    EXPECT_EQ(texts(details.advanced)[2], u"PHY Modes: "_s);
+    EXPECT_EQ(texts(details.advanced).mid(1), (QStringList{u"Network Type: Ad-Hoc"_s, u"PHY Modes: "_s}));
 }
 
 TEST(SignalSummary, PutsTheChartIntoWords)

@@ -44,24 +44,14 @@ private:
     SimulatedRadio m_radio;
 };
 
-QStringList lines(const QList<InterfaceFact>& facts)
-{
-    QStringList lines;
-    for (const InterfaceFact& fact : facts) {
-        lines.append(fact.label + u": "_s + fact.value);
-    }
-    return lines;
-}
-
 class NetworkInfoDialogTest : public testing::Test
 {
 protected:
-    NetworkInfoDialog& open(const std::shared_ptr<CWInterface>& interface = nullptr)
+    void open(const std::shared_ptr<CWInterface>& interface = nullptr)
     {
         dialog.emplace(interface, desktop.hostAddresses, desktop.workspace, log);
         dialog->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&*dialog));
-        return *dialog;
     }
 
     /// The value beside a label.
@@ -86,7 +76,12 @@ protected:
 TEST_F(NetworkInfoDialogTest, TellsWhatTheInterfaceDelivers)
 {
     const auto facts = [this](CWInterface* interface) {
-        return lines(interfaceFacts(InterfaceSnapshot::read(interface, desktop.hostAddresses)));
+        QStringList lines;
+        for (const auto& [label, value] :
+             interfaceFacts(InterfaceSnapshot::read(interface, desktop.hostAddresses))) {
+            lines.append(label + u": "_s + value);
+        }
+        return lines;
     };
     InterfaceOf joined(R"("name": "wlp3s0", "transmitPower": 63, "channels": [36, 1, 36])", R"("a\nb")");
     desktop.hostAddresses.address = u"192.168.1.20"_s;
@@ -133,7 +128,6 @@ TEST_F(NetworkInfoDialogTest, ShowsLongAndHostileTextsWholeAndLetsThemBeCopied)
 
 TEST_F(NetworkInfoDialogTest, FollowsTheInterfaceAndKeepsToTheScreen)
 {
-    desktop.hostAddresses.address.reset();
     open();
     QPointer<QTextEdit> kept(&value(u"Transmit Power"_s));
     dialog->readInterface();
@@ -155,11 +149,8 @@ TEST_F(NetworkInfoDialogTest, OpensTheNetworkSettingsAndStays)
 {
     open();
     auto* settings = dialog->findChild<QPushButton*>(u"openNetworkSettings"_s);
-    ASSERT_NE(settings, nullptr);
     QTest::mouseClick(settings, Qt::LeftButton);
     EXPECT_EQ(desktop.workspace.pages, QList<SettingsPage>{SettingsPage::network});
-    EXPECT_EQ(log.take(), QStringList());
-
     desktop.workspace.refusal = Error{u"Cannot open the network settings"_s};
     QTest::mouseClick(settings, Qt::LeftButton);
     EXPECT_EQ(log.take(), QStringList(u"Cannot open the network settings"_s));
