@@ -67,8 +67,11 @@ protected:
 
 } // namespace
 
-TEST_F(NetworkListModelTest, CarriesWhatIsHeldToTheRowOfTheSameAccessPoint)
+TEST_F(NetworkListModelTest, CarriesWhatIsHeldToTheRowOfTheSameAccessPointInThreeStepsAtMost)
 {
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy moved(&model, &QAbstractItemModel::layoutChanged);
+    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
     QRandomGenerator random(7);
     QString before;
     for (int round = 0; round < 200; ++round) {
@@ -84,6 +87,10 @@ TEST_F(NetworkListModelTest, CarriesWhatIsHeldToTheRowOfTheSameAccessPoint)
         for (int row = 0; row < before.size(); ++row) {
             ASSERT_EQ(held[row].row(), after.indexOf(before[row]))
                 << (before + u" to "_s + after).toStdString();
+        }
+        for (QSignalSpy* step : {&inserted, &moved, &removed}) {
+            ASSERT_LE(step->size(), 1);
+            step->clear();
         }
         before = after;
     }
@@ -118,18 +125,6 @@ TEST_F(NetworkListModelTest, AnnouncesOnlyRowsThatLookDifferent)
     }
     model.show(networks);
     EXPECT_THAT(changedRows(dataChanged), ElementsAre(1)) << "the joined network's history may be in its row";
-}
-
-TEST_F(NetworkListModelTest, TellsEveryMixUpInThreeSteps)
-{
-    model.show(shown(u"abcdefghijklmnop"_s));
-    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
-    const QSignalSpy moved(&model, &QAbstractItemModel::layoutChanged);
-    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
-    model.show(shown(u"pAnBlCjDhEfGdHbI"_s));
-    EXPECT_EQ(inserted.size(), 1);
-    EXPECT_EQ(moved.size(), 1);
-    EXPECT_EQ(removed.size(), 1);
 }
 
 } // namespace aerolith
