@@ -35,8 +35,6 @@ protected:
         settle();
     }
 
-    QImage picture() { return window.grab().toImage(); }
-
     /// Several times as large as on the display.
     QImage enlarged()
     {
@@ -65,12 +63,11 @@ protected:
 TEST_F(ColourSchemeTest, SwitchesWhileTheWindowIsOpen)
 {
     click(u"a"_s);
-    settle();
     // The signal line draws itself in the beginning.
     QTest::qWait(1600);
-    const QImage light = picture();
+    const QImage light = window.grab().toImage();
     become(darkPalette());
-    const QImage dark = picture();
+    const QImage dark = window.grab().toImage();
     EXPECT_NE(dark, light);
     MainWindow fresh(*engine.scanner, surroundings);
     fresh.resize(window.size());
@@ -82,7 +79,7 @@ TEST_F(ColourSchemeTest, SwitchesWhileTheWindowIsOpen)
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     become(m_own);
-    EXPECT_EQ(picture(), light);
+    EXPECT_EQ(window.grab().toImage(), light);
 }
 
 /// Where the user's palette allows it. Not measured: the row that is selected, whose colours are the

@@ -4,10 +4,8 @@
 #include "ui/main/WindowDriver.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDialog>
-#include <QLabel>
 #include <QMenu>
 #include <QTextEdit>
 
@@ -27,19 +25,6 @@ protected:
     /// The open menu of a row.
     QMenu* menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
-    /// The entries of the row's menu, which is then closed.
-    QStringList entries()
-    {
-        QStringList titles;
-        if (menu() != nullptr) {
-            for (const QAction* action : menu()->actions()) {
-                titles.append(action->text());
-            }
-            menu()->close();
-        }
-        return titles;
-    }
-
     void askForMenu(const QString& bssid)
     {
         const QPoint position = middleOf(rowOf(bssid));
@@ -48,8 +33,11 @@ protected:
     }
 
     /// Chooses the only entry of the open menu by the keyboard.
-    void choose()
+    void choose(const QString& entry)
     {
+        ASSERT_NE(menu(), nullptr);
+        ASSERT_EQ(menu()->actions().size(), 1);
+        EXPECT_EQ(menu()->actions().first()->text(), entry);
         QTest::keyClick(menu(), Qt::Key_Down);
         QTest::keyClick(menu(), Qt::Key_Return);
         settle();
@@ -57,26 +45,11 @@ protected:
 
     bool showsBackdrop() { return child(u"backdrop"_s).isVisible(); }
 
-    QString count() { return child<QLabel>(u"networkCount"_s).text(); }
-
     QList<CWNetwork> air{network(u"a"_s, u"Alpha"_s, -70), network(u"b"_s, u"beta"_s, -40),
                          network(u"c"_s, u"Cafe [*] & <b>Bar</b>\n"_s, -50)};
 };
 
 } // namespace
-
-TEST_F(MainWindowTest, ListsWhatTheScannerPublishes)
-{
-    EXPECT_EQ(list.model()->rowCount(), 3);
-    EXPECT_EQ(count(), u"3 Networks"_s);
-    EXPECT_TRUE(highlighted().isEmpty());
-    press(u"clearList"_s);
-    EXPECT_EQ(count(), u"0 Networks"_s);
-    EXPECT_TRUE(showsBackdrop());
-
-    window.resize(10, 10);
-    EXPECT_EQ(child<QWidget>(u"content"_s).size(), QSize(800, 500));
-}
 
 TEST_F(MainWindowTest, ShowsTheDetailsOfTheSelectedNetworkWhileItIsListed)
 {
@@ -101,31 +74,11 @@ TEST_F(MainWindowTest, ShowsTheDetailsOfTheSelectedNetworkWhileItIsListed)
     EXPECT_TRUE(showsBackdrop()) << "denied access clears the selection";
 }
 
-TEST_F(MainWindowTest, FiltersHiddenNetworks)
-{
-    auto& filter = child<QAbstractButton>(u"filter"_s);
-    EXPECT_EQ(filter.text(), u"All Networks"_s);
-    engine.scanner->hideNetwork(u"b"_s);
-    filter.setFocus();
-    QTest::keyClick(&filter, Qt::Key_Space);
-    settle();
-    EXPECT_EQ(filter.text(), u"Hiding Hidden"_s);
-    EXPECT_EQ(count(), u"2 Networks"_s);
-
-    engine.scanner->setShowHiddenNetworks(true);
-    settle();
-    EXPECT_TRUE(filter.isChecked()) << "it follows the flag";
-    EXPECT_EQ(filter.text(), u"All Networks"_s);
-    EXPECT_EQ(count(), u"3 Networks"_s);
-}
-
 TEST_F(MainWindowTest, HidesAndShowsARowByItsMenu)
 {
     click(u"a"_s);
     askForMenu(u"b"_s);
-    EXPECT_EQ(entries(), QStringList{u"Hide Network"_s});
-    askForMenu(u"b"_s);
-    choose();
+    choose(u"Hide Network"_s);
     EXPECT_TRUE(engine.scanner->isHidden(u"b"_s));
     EXPECT_EQ(engine.selection.selectedBSSID(), u"a"_s);
 
@@ -136,30 +89,13 @@ TEST_F(MainWindowTest, HidesAndShowsARowByItsMenu)
     ASSERT_NE(menu(), nullptr);
     EXPECT_TRUE(list.visualRect(list.currentIndex())
                     .contains(list.viewport()->mapFromGlobal(menu()->geometry().topLeft())));
-    EXPECT_EQ(entries(), QStringList{u"Show Network"_s});
+    menu()->close();
     QTest::keyClick(&list, Qt::Key_Menu);
-    choose();
+    choose(u"Show Network"_s);
     EXPECT_FALSE(engine.scanner->isHidden(u"b"_s));
 
     click(u"c"_s, {}, Qt::RightButton);
     EXPECT_EQ(engine.selection.selectedBSSID(), u"a"_s) << "asking for a menu selects nothing";
-}
-
-TEST_F(MainWindowTest, SortsByTheMenuAndTheMenuByTheScanner)
-{
-    auto& menu = child<QComboBox>(u"sortMenu"_s);
-    EXPECT_EQ(menu.currentText(), u"Signal Strength"_s);
-    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"b"_s, u"c"_s, u"a"_s}));
-    menu.setFocus();
-    QTest::keyClick(&menu, Qt::Key_Down);
-    settle();
-    EXPECT_EQ(engine.scanner->sortOption(), SortOption::ssid);
-    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"a"_s, u"b"_s, u"c"_s}));
-    scan(air);
-    EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"b"_s, u"c"_s, u"a"_s})) << "in the order of the scan";
-    EXPECT_EQ(menu.currentText(), u"Network Name"_s);
-    engine.scanner->setSortOption(SortOption::security);
-    EXPECT_EQ(menu.currentText(), u"Security Type"_s);
 }
 
 TEST_F(MainWindowTest, ExportsTheListAsItIsWhenConfirmed)
@@ -180,49 +116,37 @@ TEST_F(MainWindowTest, BringsTheSidebarBackAsWideAsItWas)
     window.resize(1200, 700);
     press(u"toggleSidebar"_s);
     EXPECT_EQ(sidebar.width(), 400);
+    window.resize(10, 10);
+    EXPECT_EQ(child(u"content"_s).size(), QSize(800, 500)) << "room for both columns";
 }
 
 TEST_F(MainWindowTest, OpensEachSheetAnewOverItselfAlone)
 {
-    press(u"settings"_s);
-    auto& settings = child<QDialog>(u"settingsView"_s);
-    EXPECT_EQ(settings.windowModality(), Qt::WindowModal);
-    QTest::keyClick(&settings, Qt::Key_Escape);
-    settle();
-    EXPECT_EQ(window.findChild<QDialog*>(), nullptr);
-
-    const auto namesInterface = [this] {
-        press(u"networkInfo"_s);
-        auto& dialog = child<QDialog>(u"networkInfoDialog"_s);
-        EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
-        const QList<QTextEdit*> values = dialog.findChildren<QTextEdit*>();
-        const bool isNamed = !values.isEmpty() && values.first()->toPlainText() == "wlan0"_L1;
-        dialog.close();
+    // The first value in it, or nothing.
+    const auto opened = [this](const QString& button) {
+        press(button);
+        auto* sheet = window.findChild<QDialog*>();
+        EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+        const auto* value = sheet->findChild<QTextEdit*>();
+        const QString text = value != nullptr ? value->toPlainText() : QString();
+        QTest::keyClick(sheet, Qt::Key_Escape);
         settle();
-        return isNamed;
+        EXPECT_EQ(window.findChild<QDialog*>(), nullptr);
+        return text;
     };
-    EXPECT_TRUE(namesInterface());
+    opened(u"settings"_s);
+    EXPECT_EQ(opened(u"networkInfo"_s), u"wlan0"_s);
     engine.wifi.setPresent(false);
-    EXPECT_FALSE(namesInterface()) << "the machine's interface as it is now";
+    EXPECT_EQ(opened(u"networkInfo"_s), u"Unknown"_s) << "the machine's interface as it is now";
 }
 
-TEST_F(MainWindowTest, IsReachedByTheKeyboardAndNamedForAssistiveTechnology)
+TEST_F(MainWindowTest, IsReachedByTheKeyboard)
 {
     click(u"a"_s);
-    QStringList reached;
-    QWidget* start = QApplication::focusWidget();
-    do {
-        QWidget* focused = QApplication::focusWidget();
-        ASSERT_NE(focused, nullptr);
-        const auto* button = qobject_cast<QAbstractButton*>(focused);
-        const bool isNamed = !focused->accessibleName().isEmpty() || (button && !button->text().isEmpty());
-        EXPECT_TRUE(isNamed) << focused->objectName().toStdString();
-        reached.append(focused->objectName());
-        QTest::keyClick(focused, Qt::Key_Tab);
-    } while (QApplication::focusWidget() != start && reached.size() < 50);
-    EXPECT_EQ(reached, QStringList({u"networkList"_s, u"exportList"_s, u"clearList"_s, u"sortMenu"_s,
-                                    u"networkDetails"_s, u"signalChart"_s, u"exportDetails"_s, u"refresh"_s,
-                                    u"toggleSidebar"_s, u"settings"_s, u"networkInfo"_s, u"filter"_s}));
+    EXPECT_EQ(reachedByTab(),
+              QStringList({u"networkList"_s, u"exportList"_s, u"clearList"_s, u"sortMenu"_s,
+                           u"networkDetails"_s, u"signalChart"_s, u"exportDetails"_s, u"refresh"_s,
+                           u"toggleSidebar"_s, u"settings"_s, u"networkInfo"_s, u"filter"_s}));
 }
 
 } // namespace aerolith

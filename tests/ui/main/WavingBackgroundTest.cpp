@@ -1,16 +1,13 @@
 #include "ui/main/WavingBackground.h"
 
-#include "support/Engine.h"
-#include "support/Printing.h"
+#include "ui/ViewDriver.h"
+#include "ui/main/BackdropMotion.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QProxyStyle>
-#include <QTest>
 #include <QVBoxLayout>
-
-#include <gtest/gtest.h>
 
 namespace aerolith {
 
@@ -27,9 +24,7 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override
     {
-        return hint == SH_Widget_Animate || hint == SH_Widget_Animation_Duration
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
+        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
 
@@ -50,8 +45,8 @@ public:
     QRegion painted;
 };
 
-/// The backdrop in a window, on an engine that the test drives.
-class WavingBackgroundTest : public testing::Test
+/// The backdrop in a window.
+class WavingBackgroundTest : public ViewDriver
 {
 protected:
     WavingBackgroundTest()
@@ -63,16 +58,11 @@ protected:
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
         backdrop.installEventFilter(&recorder);
-        message = backdrop.findChild<QLabel*>();
     }
 
     ~WavingBackgroundTest() override { backdrop.setParent(nullptr); }
 
-    void publish(const QList<CWNetwork>& networks)
-    {
-        engine.cycle(networks);
-        QCoreApplication::processEvents();
-    }
+    const QWidget& whole() override { return backdrop; }
 
     /// What is painted over some frames of the animation.
     QRegion paintedInFrames()
@@ -84,11 +74,10 @@ protected:
         return recorder.painted;
     }
 
-    Engine engine;
     QWidget window;
     WavingBackground backdrop{*engine.scanner};
+    QLabel* message = backdrop.findChild<QLabel*>();
     PaintRecorder recorder;
-    QLabel* message = nullptr;
 };
 
 } // namespace
@@ -100,24 +89,23 @@ TEST_F(WavingBackgroundTest, SaysWhatToDoOrWhatIsGoingOn)
     EXPECT_TRUE(paintedInFrames().contains(inRings));
 
     engine.location.change(CLAuthorizationStatus::denied);
-    QCoreApplication::processEvents();
+    settle();
     const QString access = u"Location access is required\nto scan for networks.\n\nPlease enable it\n"
                            "in System Settings."_s;
     EXPECT_EQ(message->text(), access);
     EXPECT_TRUE(paintedInFrames().contains(inRings)) << "still waiting for a first network";
 
-    publish({network(u"01"_s, u"net"_s)});
+    scan({network(u"01"_s, u"net"_s)});
     EXPECT_EQ(message->text(), access) << "comes before the hint";
     EXPECT_FALSE(paintedInFrames().contains(inRings));
 
     engine.location.change(CLAuthorizationStatus::authorizedWhenInUse);
-    QCoreApplication::processEvents();
+    settle();
     EXPECT_EQ(message->text(), u"Select a network to view details"_s);
     EXPECT_FALSE(paintedInFrames().intersects(message->geometry())) << "only the symbol moves";
 
     engine.scanner->clearNetworks();
-    engine.main.drain();
-    QCoreApplication::processEvents();
+    settle();
     EXPECT_EQ(message->text(), u"Scanning for networks.\nPlease wait..."_s);
     EXPECT_TRUE(paintedInFrames().contains(inRings));
 }
@@ -154,6 +142,33 @@ TEST_F(WavingBackgroundTest, StaysStillWhereTheDesktopWantsNoAnimations)
     EXPECT_FALSE(backdrop.isAnimating());
     backdrop.setStyle(QApplication::style());
     EXPECT_TRUE(backdrop.isAnimating());
+}
+
+TEST(BackdropMotion, ComesAndGoesOneRingAfterTheOther)
+{
+    // Slow at both ends: the curve's value at a quarter of the way.
+    constexpr double quarter = 0.1292;
+
+    struct
+    {
+        int index;
+        double seconds;
+        double scale;
+        double opacity;
+    } const rings[] = {{0, 0, 1.0, 1},
+                       {0, 502.5, 0.85, 0},
+                       {3, 1.525, 1.15 - 0.15 * quarter, 1 - quarter},
+                       {0, 4.375, 1.0 - 0.15 * quarter, 1 - quarter}};
+
+    for (const auto& [index, seconds, scale, opacity] : rings) {
+        SCOPED_TRACE(testing::Message() << "ring " << index << " at " << seconds);
+        const BackdropMotion::Ring now = BackdropMotion::ring(index, Seconds(seconds));
+        EXPECT_EQ(now.diameter, 320 + 40 * index);
+        EXPECT_NEAR(now.scale, scale, 0.0005);
+        EXPECT_NEAR(now.opacity, opacity, 0.003);
+    }
+    EXPECT_NEAR(BackdropMotion::symbolScale(Seconds(0.375)), 0.95 + 0.15 * quarter, 0.0005);
+    EXPECT_NEAR(BackdropMotion::symbolScale(Seconds(3001.5)), 1.1, 0.0005);
 }
 
 } // namespace aerolith

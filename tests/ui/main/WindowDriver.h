@@ -1,21 +1,13 @@
 #pragma once
 
-#include "support/Engine.h"
-#include "support/FakeDesktop.h"
-#include "support/Printing.h"
-#include "ui/SavedFiles.h"
+#include "ui/ViewDriver.h"
 #include "ui/main/MainWindow.h"
 
-#include <QCoreApplication>
 #include <QListView>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace aerolith {
 
-/// The main window on an engine that the test drives, as a user finds it: by the names of its parts.
-class WindowDriver : public testing::Test
+class WindowDriver : public ViewDriver
 {
 protected:
     WindowDriver()
@@ -25,26 +17,7 @@ protected:
         settle();
     }
 
-    void scan(const QList<CWNetwork>& results)
-    {
-        engine.cycle(results);
-        QCoreApplication::processEvents();
-    }
-
-    /// Lets what the user did take effect.
-    void settle()
-    {
-        engine.main.drain();
-        QCoreApplication::processEvents();
-    }
-
-    template <typename Widget = QWidget>
-    Widget& child(const QString& name)
-    {
-        auto* found = window.findChild<Widget*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return *found;
-    }
+    const QWidget& whole() final { return window; }
 
     void press(const QString& button)
     {
@@ -74,10 +47,6 @@ protected:
         return rows;
     }
 
-    Engine engine;
-    DateTexts texts{UserLocale()};
-    SavedFiles files;
-    FakeDesktop desktop;
     WindowSurroundings surroundings{.userDefaults = engine.defaults,
                                     .wifiClient = engine.wifi,
                                     .desktop = desktop.services(),
