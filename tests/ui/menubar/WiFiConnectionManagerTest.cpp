@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-CWNetwork withSecurity(std::initializer_list<CWSecurity> codes, const QString& ssid = u"Cafe"_s)
+CWNetwork withSecurity(const QList<CWSecurity>& codes, const QString& ssid = u"Cafe"_s)
 {
     CWNetwork found = network(u"a"_s, ssid);
     for (const CWSecurity code : codes) {
@@ -51,35 +51,27 @@ protected:
 
 TEST_F(WiFiConnectionManagerTest, AsksForAPasswordWhereTheKindOfNetworkNeedsOne)
 {
-    const struct
-    {
-        std::initializer_list<CWSecurity> codes;
-        bool asks;
-    } kinds[] = {
-        {{}, false},
-        {{CWSecurity::none}, false},
-        {{CWSecurity::owe}, false},
-        {{CWSecurity::wpa2Enterprise, CWSecurity::enterprise}, false},
-        {{CWSecurity::wpa3Enterprise}, false},
-        {{CWSecurity::dynamicWEP}, false},
-        {{CWSecurity::personal}, false},
-        {{CWSecurity::wep}, true},
-        {{CWSecurity::wpaPersonal}, true},
-        {{CWSecurity::wpaPersonalMixed}, true},
-        {{CWSecurity::wpa2Personal}, true},
-        {{CWSecurity::wpa3Personal}, true},
-        {{CWSecurity::wpa3Transition, CWSecurity::wpa3Personal}, true},
-    };
-
-    for (const auto& [codes, asks] : kinds) {
-        SCOPED_TRACE(codes.size() == 0 ? -1 : static_cast<int>(*codes.begin()));
+    using enum CWSecurity;
+    const QList<QList<CWSecurity>> withPassword{
+        {wep},          {wpaPersonal},  {wpaPersonalMixed},
+        {wpa2Personal}, {wpa3Personal}, {wpa3Transition, wpa3Personal}};
+    for (const auto& codes : withPassword) {
+        SCOPED_TRACE(static_cast<int>(codes.first()));
         user.shown.clear();
+        manager.connectTo(withSecurity(codes));
+        EXPECT_EQ(user.shown, QStringList{u"Connect to \u2068Cafe\u2069|Enter the network password:"_s});
+        EXPECT_TRUE(wifi.air.joins.isEmpty()) << "dismissed, nothing is joined";
+    }
+
+    const QList<QList<CWSecurity>> without{
+        {}, {none}, {owe}, {wpa2Enterprise, enterprise}, {wpa3Enterprise}, {dynamicWEP}, {personal}};
+    user.shown.clear();
+    for (const auto& codes : without) {
+        SCOPED_TRACE(codes.isEmpty() ? -1 : static_cast<int>(codes.first()));
         wifi.air.joins.clear();
         manager.connectTo(withSecurity(codes));
-        EXPECT_EQ(user.shown, asks ? QStringList{u"Connect to \u2068Cafe\u2069|Enter the network password:"_s}
-                                   : QStringList());
-        EXPECT_EQ(wifi.air.joins, asks ? QList<FakeJoin>() : QList<FakeJoin>({{"Cafe", {}}}))
-            << "dismissed, nothing is joined";
+        EXPECT_TRUE(user.shown.isEmpty());
+        EXPECT_EQ(wifi.air.joins, QList<FakeJoin>({{"Cafe", {}}}));
     }
 }
 
@@ -90,9 +82,7 @@ TEST_F(WiFiConnectionManagerTest, JoinsWithThePasswordAsItWasTyped)
         wifi.air.joins.clear();
         user.answer([&](const QDialog& dialog) {
             EXPECT_EQ(dialog.focusWidget(), &field(dialog));
-            EXPECT_EQ(field(dialog).size(), QSize(200, 24));
             field(dialog).insert(typed);
-            EXPECT_EQ(field(dialog).text(), typed);
             EXPECT_NE(field(dialog).displayText(), typed.isEmpty() ? u"-"_s : typed) << "masked";
             QTest::keyClick(&field(dialog), Qt::Key_Return);
         });
@@ -135,7 +125,6 @@ TEST_F(WiFiConnectionManagerTest, JoinsNothingWithoutAnInterfaceOrWhenTheUserGiv
     for (int i = 0; i < 3; ++i) {
         manager.connectTo(secured);
     }
-    EXPECT_EQ(user.shown.size(), 3);
 
     wifi.setPresent(false);
     manager.connectTo(secured);
