@@ -2,6 +2,7 @@
 
 #include "support/Printing.h"
 #include "ui/common/SelectableText.h"
+#include "ui/update/CheckForUpdatesView.h"
 #include "update/SettingKeys.h"
 #include "update/UpdateWorld.h"
 
@@ -49,11 +50,11 @@ protected:
 
     QString message() const { return child<SelectableText>(u"message"_s).toPlainText(); }
 
-    bool shows(const QString& expected) const
+    testing::AssertionResult shows(const QString& expected) const
     {
-        const bool shown = handleEventsUntil([&] { return heading() == expected; });
-        EXPECT_TRUE(shown) << heading().toStdString();
-        return shown;
+        return handleEventsUntil([&] { return heading() == expected; })
+                   ? testing::AssertionSuccess()
+                   : testing::AssertionFailure() << heading().toStdString();
     }
 
     /// The parts of the dialog that can be seen, but for the heading.
@@ -119,6 +120,22 @@ TEST_F(UpdaterControllerTest, LeadsFromTheCheckToTheFile)
     EXPECT_EQ(workspace.folders, QStringList{options().folder});
     EXPECT_EQ(dialog(), first) << "one dialog for all";
     close(Qt::Key_Return);
+}
+
+TEST_F(UpdaterControllerTest, IsAskedByAMenuItemThatIsDisabledMeanwhile)
+{
+    std::optional<CheckForUpdatesView> item(std::in_place, controller->updater());
+    EXPECT_TRUE(item->isEnabled());
+    item->trigger();
+    ASSERT_TRUE(shows(u"Checking for updates\u2026"_s));
+    EXPECT_FALSE(item->isEnabled());
+    EXPECT_FALSE(CheckForUpdatesView(controller->updater()).isEnabled()) << "from the start";
+    ASSERT_TRUE(shows(u"Aerolith 1.1 is available"_s));
+    EXPECT_TRUE(item->isEnabled());
+
+    item.reset();
+    controller->updater().checkForUpdates();
+    EXPECT_TRUE(shows(u"Checking for updates\u2026"_s)) << "an item that is gone hears no more of it";
 }
 
 TEST_F(UpdaterControllerTest, CancelsADownload)
