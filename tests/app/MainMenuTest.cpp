@@ -22,23 +22,18 @@ TEST(SupportMail, EncodesAsAQueryDoes)
     EXPECT_EQ(queryEncoded(u" \n\"#%<>[]^`{|}é"_s), "%20%0A%22%23%25%3C%3E%5B%5D%5E%60%7B%7C%7D%C3%A9");
 }
 
-TEST(SupportMail, IsAddressedAndBegun)
-{
-    const QByteArray mail = supportMailUrl().toEncoded();
-    EXPECT_TRUE(mail.startsWith("mailto:"));
-    EXPECT_TRUE(mail.endsWith("?subject=Aerolith%20Support%20Request"
-                              "&body=Hello%20Aerolith%20Team,%0A%0A"
-                              "I%20need%20assistance%20with%20the%20following:%0A%0A"))
-        << mail.constData();
-}
-
 TEST(ContactSupport, HandsTheMailToTheDesktopAndLogsARefusal)
 {
     FakeWorkspace workspace;
     RecordingLog log;
     contactSupport(workspace, log);
-    EXPECT_EQ(workspace.urls, QList<QUrl>{supportMailUrl()});
-    EXPECT_TRUE(log.take().isEmpty());
+    ASSERT_EQ(workspace.urls.size(), 1);
+    const QByteArray mail = workspace.urls.first().toEncoded();
+    EXPECT_TRUE(mail.startsWith("mailto:"));
+    EXPECT_TRUE(mail.endsWith("?subject=Aerolith%20Support%20Request"
+                              "&body=Hello%20Aerolith%20Team,%0A%0A"
+                              "I%20need%20assistance%20with%20the%20following:%0A%0A"))
+        << mail.constData();
 
     workspace.refusal = Error{u"no mail program"_s};
     contactSupport(workspace, log);

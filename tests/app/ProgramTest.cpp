@@ -1,5 +1,6 @@
 // The built program from outside.
 
+#include "app/CommandLine.h"
 #include "support/Printing.h"
 
 #include <QFile>
@@ -24,29 +25,24 @@ class ProgramTest : public testing::Test
 protected:
     ProgramTest()
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         for (const QString& variable : {u"XDG_RUNTIME_DIR"_s, u"XDG_CONFIG_HOME"_s}) {
             environment.insert(variable, folder.path());
         }
         environment.remove(u"DISPLAY"_s);
         environment.remove(u"WAYLAND_DISPLAY"_s);
-        program.setProgram(QStringLiteral(AEROLITH_PROGRAM));
-        program.setProcessEnvironment(environment);
     }
 
-    void setEnvironment(const QString& variable, const QString& value)
+    void start(const QStringList& arguments)
     {
-        QProcessEnvironment environment = program.processEnvironment();
-        environment.insert(variable, value);
         program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(AEROLITH_PROGRAM), arguments);
     }
 
     /// Runs it to its end; the exit status, or -1 for a crash.
     int run(const QStringList& arguments)
     {
-        program.setArguments(arguments);
-        program.start();
+        start(arguments);
         return end();
     }
 
@@ -64,19 +60,24 @@ protected:
         return text.trimmed();
     }
 
-    QString writeScenario(const QByteArray& json)
-    {
-        QFile file(folder.filePath(u"scenario.json"_s));
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-        file.write(json);
-        return file.fileName();
-    }
-
     QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     QProcess program;
 };
 
 } // namespace
+
+TEST(CommandLine, RefusesWhatItDoesNotKnow)
+{
+    for (const QStringList& arguments :
+         {QStringList{u"town.json"_s}, QStringList{u"--simulate"_s, u"a"_s, u"b"_s},
+          QStringList{u"--style"_s}, QStringList{u"--help"_s, u"-x"_s}, QStringList{QString()}}) {
+        SCOPED_TRACE(arguments.join(u' ').toStdString());
+        const auto parsed = parseCommandLine(arguments);
+        ASSERT_FALSE(parsed.ok());
+        EXPECT_TRUE(parsed.error().description.contains(arguments.last()));
+    }
+}
 
 TEST_F(ProgramTest, RefusesWrongArgumentsInOneLine)
 {
@@ -90,24 +91,22 @@ TEST_F(ProgramTest, RefusesAScenarioThatItCannotRead)
     EXPECT_EQ(run({u"--simulate"_s, folder.filePath(u"missing.json"_s)}), 2);
     EXPECT_TRUE(errorLine().contains(folder.filePath(u"missing.json"_s)));
 
-    const QString file = writeScenario(R"({"cycles": [{"networks": [{"rssi": "loud"}]}]})");
-    EXPECT_EQ(run({u"--simulate"_s, file}), 2);
+    QFile file(folder.filePath(u"scenario.json"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(R"({"cycles": [{"networks": [{"rssi": "loud"}]}]})");
+    file.close();
+    EXPECT_EQ(run({u"--simulate"_s, file.fileName()}), 2);
     const QString line = errorLine();
-    EXPECT_TRUE(line.contains(file)) << line.toStdString();
+    EXPECT_TRUE(line.contains(file.fileName())) << line.toStdString();
     EXPECT_TRUE(line.contains(u"cycles[0].networks[0].rssi"_s)) << line.toStdString();
 }
 
-TEST_F(ProgramTest, SaysThatThereIsNoDisplay)
+TEST_F(ProgramTest, NeedsADisplayForItsWindowAlone)
 {
-    setEnvironment(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
-    setEnvironment(u"DISPLAY"_s, u":4711"_s);
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    environment.insert(u"DISPLAY"_s, u":4711"_s);
     EXPECT_EQ(run({u"--simulate"_s}), 1);
     EXPECT_TRUE(errorLine().startsWith(u"aerolith: cannot open the display"_s));
-}
-
-TEST_F(ProgramTest, NeedsNoDisplayToDescribeItself)
-{
-    setEnvironment(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
     EXPECT_EQ(run({u"--help"_s}), 0);
     EXPECT_TRUE(program.readAllStandardOutput().contains("--simulate [FILE]"));
     EXPECT_EQ(run({u"--version"_s}), 0);
@@ -118,8 +117,7 @@ TEST_F(ProgramTest, EndsInOrderWhenASignalAsksItTo)
 {
     for (const int signal : {SIGINT, SIGTERM}) {
         SCOPED_TRACE(signal);
-        program.setArguments({u"--simulate"_s});
-        program.start();
+        start({u"--simulate"_s});
         // The scanner is up when it logs its first line.
         while (!program.canReadLine()) {
             ASSERT_TRUE(program.waitForReadyRead(patienceMilliseconds));
