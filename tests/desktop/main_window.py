@@ -151,7 +151,7 @@ def sort(window):
         wait_for(f"the order {order}", lambda: window.rows() == order)
 
     choose("Down", by_name)
-    check("the order's name", menu.name, "Network Name")
+    check("the order's name", (menu.name, menu.description), ("Network Name", "Network Name"))
     choose("Up", by_signal)
     print(f"ok: by signal {by_signal}, by name {by_name}")
 
