@@ -180,14 +180,19 @@ def compare_with_scenario(details, path):
     check("the signal on the air", details["Current RSSI"] in levels, True)
 
 
-def interface(window):
-    window.frame.find("push button", "Wi-Fi interface information").press()
-    dialog = window.application.find("dialog")
+def interface_texts(dialog):
     texts = [e.name for e in dialog.all("label")] + [e.text for e in dialog.all("text")]
     for label in ("Interface", "Hardware Address", "Transmit Power", "Supported Channels"):
         if label not in texts:
             raise Failure(f"the interface dialog lacks {label}: {texts}")
-    print(f"ok: the interface: {texts}")
+    return texts
+
+
+def interface(window):
+    window.frame.find("push button", "Wi-Fi interface information").press()
+    dialog = window.application.find("dialog")
+    # Its rows are made anew when a reading changes, which may be while they are read.
+    print(f"ok: the interface: {wait_for('all rows', lambda: interface_texts(dialog))}")
     key("Return")
     window.application.gone("dialog")
 
