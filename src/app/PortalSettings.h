@@ -16,15 +16,15 @@ class PortalSettings : public QObject
     Q_OBJECT
 
 public:
-    /// Asks a portal that runs already; others are started by follow().
+    /// Asks a portal that runs already, and starts none.
     PortalSettings();
 
-    /// Tells the answer to that; for before the first window shows, as a portal answers at once. Waits for a
-    /// hung one, 250 ms after the question at most.
+    /// Waits for the answer to that, 250 ms after the question at most, and tells it: for before the first
+    /// window is made.
     void tellFirst();
 
-    /// Asks once more after the first painting of the window, which does not wait for it, and from then on
-    /// tells of every change.
+    /// Asks once more after the first painting of the window, which does not wait for it, starting the portal
+    /// where that does not run; from then on tells of every change.
     void followAfterPainting(QWidget& window);
 
     /// The groups that are asked for.
