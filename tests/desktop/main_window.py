@@ -6,6 +6,7 @@ access point SSID, reads its details, hides and shows it, filters, sorts, export
 the interface's properties and changes the settings. It knows nothing of the air around: what the window says in one
 place is compared with what it says in another and with the files. RESULTS/details.json keeps what the pane said."""
 
+import contextlib
 import csv
 import functools
 import json
@@ -138,21 +139,25 @@ def hide_and_show(window, ssid):
 
 
 def sort(window):
-    """The next scan puts the list into its own order again: each order is seen at once or not at all."""
     by_signal = window.rows()
     joined = by_signal[:1] if window.list.children[0].name.endswith(", joined") else []
     by_name = joined + sorted(by_signal[len(joined):], key=str.casefold)
     menu = window.frame.find("combo box")
 
-    def choose(towards, order):
+    def choose(steps, order):
         menu.act("ShowMenu")
         wait_for("the menu", lambda: menu.children[0].showing)
-        key(towards, "Return")
-        wait_for(f"the order {order}", lambda: window.rows() == order)
+        key("Home", *["Down"] * steps, "Return")
+        with contextlib.suppress(Failure):
+            return wait_for(f"the order {order}", lambda: window.rows() == order, PATIENCE / 12)
 
-    choose("Down", by_name)
+    def choose_until_seen(steps, order):
+        """A scan that ends before the rows are read has put the list into its own order again."""
+        wait_for(f"the order {order}, not {window.rows()}", lambda: choose(steps, order))
+
+    choose_until_seen(1, by_name)
     check("the order's name", (menu.name, menu.description), ("Network Name", "Network Name"))
-    choose("Up", by_signal)
+    choose_until_seen(0, by_signal)
     print(f"ok: by signal {by_signal}, by name {by_name}")
 
 
