@@ -1,9 +1,13 @@
 #include "update/Appcast.h"
 
+#include "update/FeedMarkup.h"
 #include "update/HttpsAddress.h"
 #include "update/ReleaseNotes.h"
 
+#include <QStringDecoder>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace aerolith {
 
@@ -16,7 +20,7 @@ constexpr auto ownNamespace = "https://aerolith.example/appcast"_L1;
 class AppcastReader
 {
 public:
-    explicit AppcastReader(const QByteArray& feed) : m_xml(feed) {}
+    explicit AppcastReader(const QString& feed) : m_xml(feed) {}
 
     [[nodiscard]] Result<QList<AppcastItem>> read()
     {
@@ -38,9 +42,6 @@ private:
             case QXmlStreamReader::StartElement:
                 return true;
             case QXmlStreamReader::EndElement:
-                return false;
-            case QXmlStreamReader::DTD:
-                m_xml.raiseError(u"a document type declaration is not allowed"_s);
                 return false;
             default:
                 break;
@@ -104,7 +105,7 @@ private:
                 m_items.append(enclosure());
                 m_xml.skipCurrentElement();
             } else if (isAt("description"_L1)) {
-                notes = readableNotes(m_xml.readElementText(QXmlStreamReader::IncludeChildElements));
+                notes = readableNotes(readText());
             } else {
                 m_xml.skipCurrentElement();
             }
@@ -112,6 +113,29 @@ private:
         for (qsizetype i = first; i < m_items.size(); ++i) {
             m_items[i].notes = notes;
         }
+    }
+
+    /// All text inside the current element. Qt's own way calls itself for each element in it, and would run
+    /// out of stack.
+    QString readText()
+    {
+        QString text;
+        for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
+            switch (m_xml.readNext()) {
+            case QXmlStreamReader::StartElement:
+                ++depth;
+                break;
+            case QXmlStreamReader::EndElement:
+                --depth;
+                break;
+            case QXmlStreamReader::Characters:
+                text += m_xml.text();
+                break;
+            default:
+                break;
+            }
+        }
+        return text;
     }
 
     [[nodiscard]] AppcastItem enclosure()
@@ -169,7 +193,16 @@ Result<QList<AppcastItem>> parseAppcast(const QByteArray& feed)
     if (feed.size() > maximumFeedSize) {
         return Error{u"the feed is larger than %1 bytes"_s.arg(maximumFeedSize)};
     }
-    return AppcastReader(feed).read();
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(feed);
+    if (decoder.hasError()) {
+        const qsizetype place = std::max<qsizetype>(text.indexOf(QChar::ReplacementCharacter), 0);
+        return Error{u"line %1: the feed is not UTF-8 text"_s.arg(text.first(place).count(u'\n') + 1)};
+    }
+    if (const Failure obstacle = markupObstacle(text)) {
+        return *obstacle;
+    }
+    return AppcastReader(text).read();
 }
 
 std::optional<AppcastItem> newestUpdate(const QList<AppcastItem>& items, const Version& running,

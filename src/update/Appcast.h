@@ -40,8 +40,9 @@ struct AppcastItem
 /// The items of an appcast, in its order: an RSS 2.0 feed whose items have enclosures with the attributes url
 /// and length, and, of the feed's own name space, version, edSignature and, if it likes, architecture. An
 /// item with several enclosures counts as several, one without any as none. What else is in the feed is
-/// passed over, but an enclosure that lacks something, a document type declaration, or what is no XML makes
-/// the whole feed unusable: the error names the line and what is wrong there.
+/// passed over, but an enclosure that lacks something, a document type declaration, a tag beyond all measure,
+/// or what is no XML in UTF-8 makes the whole feed unusable: the error names the line and what is wrong
+/// there.
 [[nodiscard]] Result<QList<AppcastItem>> parseAppcast(const QByteArray& feed);
 
 /// The newest item that is newer than `running` and runs on this processor, of equals the first. Absent when
