@@ -49,8 +49,13 @@ bool DecliningAgent::handleMessage(const QDBusMessage& message, const QDBusConne
     if (message.interface() != agentInterface) {
         return false;
     }
-    if (message.member() != u"GetSecrets"_s) {
+    if (message.member() == u"CancelGetSecrets"_s) {
         return connection.send(message.createReply());
+    }
+    if (message.member() != u"GetSecrets"_s) {
+        // It neither saves nor deletes; NetworkManager then asks the next agent to.
+        return connection.send(
+            message.createErrorReply(agentInterface + u".Failed"_s, u"Aerolith stores no secrets"_s));
     }
     const auto arguments = message.arguments();
     const auto isOurs = arguments.value(1).value<QDBusObjectPath>().path() == m_profile;
