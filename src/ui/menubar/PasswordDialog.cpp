@@ -46,6 +46,11 @@ PasswordDialog::PasswordDialog(const QString& ssid)
     m_field->setFocus();
 }
 
+PasswordDialog::~PasswordDialog()
+{
+    const Secret forgotten = takePassword();
+}
+
 bool PasswordDialog::ask()
 {
     setWindowModality(Qt::ApplicationModal);
@@ -78,7 +83,8 @@ Secret PasswordDialog::takePassword()
     const auto forget = qScopeGuard([&] {
         // The field's own storage.
         wipe(typed);
-        m_field->clear();
+        // Unlike clear(), it leaves nothing to be undone.
+        m_field->setText({});
     });
     return Secret(typed);
 }

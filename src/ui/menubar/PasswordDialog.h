@@ -20,6 +20,9 @@ public:
     /// `ssid` as reported; empty when the network has none.
     explicit PasswordDialog(const QString& ssid);
 
+    /// What was typed and not taken is overwritten.
+    ~PasswordDialog() override;
+
     /// Blocks until the user has answered: true to connect.
     [[nodiscard]] bool ask();
 
