@@ -2,6 +2,7 @@
 
 #include "ui/menubar/StatusIcon.h"
 #include "ui/menubar/StatusMenuView.h"
+#include "ui/menubar/WaitState.h"
 
 namespace aerolith {
 
@@ -50,7 +51,8 @@ void StatusMenuController::setupPopover()
 
 void StatusMenuController::togglePopover()
 {
-    if (!hasStatusItem()) {
+    // The desktop tells of a press in its own way, past what holds back input meanwhile.
+    if (!hasStatusItem() || WaitState::isWaiting()) {
         return;
     }
     if (m_popover && m_popover->isShown()) {

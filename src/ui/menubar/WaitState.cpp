@@ -1,8 +1,9 @@
 #include "ui/menubar/WaitState.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
-#include <QGuiApplication>
+#include <QWidget>
 
 namespace aerolith {
 
@@ -30,11 +31,26 @@ public:
     }
 };
 
+void setGrabs(QWindow& popup, bool enabled)
+{
+    popup.setKeyboardGrabEnabled(enabled);
+    popup.setMouseGrabEnabled(enabled);
+}
+
+int waits = 0;
+
 } // namespace
 
 WaitState::WaitState()
 {
+    ++waits;
     QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    if (const QWidget* popup = QApplication::activePopupWidget()) {
+        m_popup = popup->windowHandle();
+    }
+    if (m_popup) {
+        setGrabs(*m_popup, false);
+    }
 }
 
 WaitState::~WaitState()
@@ -43,6 +59,15 @@ WaitState::~WaitState()
     qGuiApp->installEventFilter(&sink);
     QCoreApplication::processEvents();
     QGuiApplication::restoreOverrideCursor();
+    if (m_popup && m_popup->isVisible()) {
+        setGrabs(*m_popup, true);
+    }
+    --waits;
+}
+
+bool WaitState::isWaiting()
+{
+    return waits > 0;
 }
 
 } // namespace aerolith

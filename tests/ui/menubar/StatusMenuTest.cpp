@@ -285,9 +285,12 @@ TEST_F(StatusMenuTest, JoinsOnceHoweverOftenItIsAskedToMeanwhile)
 {
     open();
     engine.wifi.air.duringJoin = [this] {
-        // As while it waits: the list changes, and the row is pressed once more.
+        // As while it waits: the list changes, the row is pressed once more, and so is the icon.
         pressButton(2);
         scan({air[0]});
+        pressIcon();
+        EXPECT_TRUE(isOpen());
+        EXPECT_FALSE(scans());
     };
     pressButton(2);
     pressButton(2);
