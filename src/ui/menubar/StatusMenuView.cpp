@@ -77,12 +77,13 @@ StatusMenuView::StatusMenuView(WiFiScanner& scanner, StatusMenuController& statu
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
-    // What the list does not take the bars share.
-    column->addWidget(makeHeader(), 1);
+    column->addStretch();
+    column->addWidget(makeHeader());
     column->addWidget(new Divider(Qt::Horizontal));
-    column->addWidget(m_list, largestListHeight);
+    column->addWidget(m_list, 1);
     column->addWidget(new Divider(Qt::Horizontal));
-    column->addWidget(makeBottomBar(), 1);
+    column->addWidget(makeBottomBar());
+    column->addStretch();
 
     // Assistive technology flips a switch without a click.
     connect(m_power, &Switch::toggled, this, [this](bool on) {
