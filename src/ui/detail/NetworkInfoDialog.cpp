@@ -58,6 +58,8 @@ void NetworkInfoDialog::readInterface()
 QLayout* NetworkInfoDialog::makeButtons()
 {
     auto* settings = new QPushButton(tr("Open Network Settings"));
+    // The Return key is the default button's, wherever the focus is.
+    settings->setAutoDefault(false);
     settings->setObjectName(u"openNetworkSettings"_s);
     connect(settings, &QPushButton::clicked, this, &NetworkInfoDialog::openNetworkSettings);
     auto* closeButton = new QPushButton(tr("Close"), this);

@@ -173,6 +173,8 @@ QLayout* SettingsView::makeHistoryPoints()
 QLayout* SettingsView::makeButtons()
 {
     auto* cancelButton = new QPushButton(tr("Cancel"));
+    // The Return key saves, wherever the focus is.
+    cancelButton->setAutoDefault(false);
     cancelButton->setObjectName(u"cancel"_s);
     connect(cancelButton, &QPushButton::clicked, this, &SettingsView::reject);
     auto* saveButton = new QPushButton(tr("Save"));

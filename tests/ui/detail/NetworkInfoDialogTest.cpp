@@ -159,6 +159,7 @@ TEST_F(NetworkInfoDialogTest, OpensTheNetworkSettingsAndStays)
     QTest::keyClick(&*dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     open();
+    dialog->findChild<QPushButton*>(u"openNetworkSettings"_s)->setFocus();
     QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(dialog->isVisible());
 }
