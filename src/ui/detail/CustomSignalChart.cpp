@@ -223,6 +223,13 @@ void CustomSignalChart::hoverAt(const std::optional<QPointF>& pointer)
     hover(topmost == all.crend() ? std::nullopt : std::optional(topmost->data.id));
 }
 
+void CustomSignalChart::updateHover()
+{
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    const bool isOver = underMouse() && visibleRegion().contains(pointer);
+    hoverAt(isOver ? std::optional<QPointF>(pointer) : std::nullopt);
+}
+
 void CustomSignalChart::mouseMoveEvent(QMouseEvent* event)
 {
     hoverAt(event->position());
@@ -264,7 +271,7 @@ void CustomSignalChart::focusInEvent(QFocusEvent* event)
 void CustomSignalChart::focusOutEvent(QFocusEvent* event)
 {
     // A pointer goes on reading in a window that is not active.
-    hoverAt(underMouse() ? std::optional(mapFromGlobal(QCursor::pos())) : std::nullopt);
+    updateHover();
     QWidget::focusOutEvent(event);
 }
 

@@ -31,6 +31,9 @@ public:
     /// As a new chart, for another access point: nothing is hovered, and the line draws itself once more.
     void startOver();
 
+    /// The pointer stands still while the chart moves below it.
+    void updateHover();
+
     [[nodiscard]] const std::optional<QUuid>& hoveredPointId() const { return m_hover.hoveredPointId(); }
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -7,6 +7,7 @@
 #include "ui/detail/DetailStatusBar.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace aerolith {
@@ -86,7 +87,13 @@ NetworkDetailView::NetworkDetailView(WiFiScanner& scanner, const DetailSurroundi
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins({});
     stack->setSpacing(0);
-    stack->addWidget(makeScrollArea({m_signalOverview, m_networkInformation, m_advanced}));
+    auto* facts = makeScrollArea({m_signalOverview, m_networkInformation, m_advanced});
+    connect(facts->verticalScrollBar(), &QScrollBar::valueChanged, m_chart, [this] {
+        if (m_chart->underMouse()) {
+            m_chart->updateHover();
+        }
+    });
+    stack->addWidget(facts);
     stack->addWidget(m_statusBar);
 }
 

@@ -56,6 +56,19 @@ protected:
 
 } // namespace
 
+TEST_F(NetworkDetailViewTest, LeavesADotThatScrollsAwayFromThePointer)
+{
+    const QPoint dot(chart.contentsRect().left() + 2, chart.contentsRect().center().y());
+    QCursor::setPos(chart.mapToGlobal(dot));
+    QTest::mouseMove(&chart, dot);
+    ASSERT_TRUE(chart.hoveredPointId());
+    auto& scrollBar = *view.findChild<QScrollArea*>()->verticalScrollBar();
+    scrollBar.setValue(40);
+    EXPECT_FALSE(chart.hoveredPointId());
+    scrollBar.setValue(0);
+    EXPECT_TRUE(chart.hoveredPointId());
+}
+
 TEST_F(NetworkDetailViewTest, ChangesTextsInPlace)
 {
     value(u"ssid"_s).setSelection(0, 2);
