@@ -24,7 +24,7 @@ StatusBarFrame::StatusBarFrame(QWidget* parent) : QWidget(parent), m_row(new QHB
     layers->setContentsMargins({});
     layers->addLayout(m_row, 0, 0);
     layers->addWidget(new Divider(Qt::Horizontal), 0, 0, Qt::AlignTop);
-    m_row->setContentsMargins(sidePadding, 0, sidePadding, 0);
+    m_row->setContentsMargins(sidePadding - SymbolButton::margin, 0, sidePadding - SymbolButton::margin, 0);
 }
 
 SymbolButton* StatusBarFrame::makeButton(const QString& objectName, const QString& symbol,

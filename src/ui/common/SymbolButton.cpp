@@ -31,6 +31,11 @@ void SymbolButton::setTitle(const QString& title)
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
 
+QSize SymbolButton::sizeHint() const
+{
+    return text().isEmpty() ? iconSize().grownBy({margin, margin, margin, margin}) : QToolButton::sizeHint();
+}
+
 /// The focus is marked by a ring alone.
 void SymbolButton::initStyleOption(QStyleOptionToolButton* option) const
 {

@@ -25,11 +25,12 @@ SidebarStatusBar::SidebarStatusBar(WiFiScanner& scanner, FileExporter& exporter,
 {
     auto* exportButton = makeButton(u"exportList"_s, u"square.and.arrow.up"_s, tr("Export network list"));
     auto* clearButton = makeButton(u"clearList"_s, u"trash"_s, tr("Clear network list"));
-    row().setSpacing(itemSpacing);
+    row().setSpacing(itemSpacing - 2 * SymbolButton::margin);
     row().addWidget(exportButton);
     row().addWidget(clearButton);
     row().addStretch();
     row().addWidget(makeSortMenu());
+    row().addSpacing(SymbolButton::margin);
 
     connect(exportButton, &SymbolButton::clicked, this, &SidebarStatusBar::exportList);
     connect(clearButton, &SymbolButton::clicked, this, [this] { m_scanner.clearNetworks(); });
