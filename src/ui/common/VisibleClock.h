@@ -27,6 +27,9 @@ public:
     /// `frame` runs whenever the time has moved. The widget outlives this object, or owns it.
     VisibleClock(QWidget& widget, std::function<void()> frame, std::chrono::milliseconds interval = smooth);
 
+    /// From the next frame on.
+    void setInterval(std::chrono::milliseconds interval) { m_interval = interval; }
+
     /// How long the widget has been seen since it was shown.
     [[nodiscard]] Seconds time() const;
 

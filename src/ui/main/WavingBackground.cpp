@@ -23,6 +23,8 @@ constexpr int antennaSize = 36;
 constexpr int antennaSpacing = 24;
 constexpr int messageSize = 14;
 constexpr double ringOpacity = 0.4;
+/// Between two pictures of the symbol its edge moves by a fifth of a pixel at most.
+constexpr std::chrono::milliseconds symbolInterval{66};
 
 QRectF centredSquare(const QPointF& centre, double side)
 {
@@ -93,6 +95,8 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
     , m_publish([this] { showState(); })
     , m_clock(*this, [this] { repaintMoving(); })
 {
+    // With a ground of its own, nothing below it is painted for each frame.
+    setAutoFillBackground(true);
     m_message->setObjectName(u"backdropMessage"_s);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setFont(Theme::font(m_message->font(), messageSize, QFont::Medium));
@@ -128,6 +132,7 @@ void WavingBackground::showState()
     }
     m_symbol = message.symbol;
     m_showsRings = listIsEmpty;
+    m_clock.setInterval(listIsEmpty ? VisibleClock::smooth : symbolInterval);
     m_message->setText(message.text);
     update();
 }
