@@ -3,6 +3,8 @@
 #include "update/HttpsAddress.h"
 #include "update/UpdateTexts.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace aerolith {
@@ -23,7 +25,8 @@ int statusOf(const QNetworkReply& reply)
 
 bool isRedirect(const QNetworkReply& reply)
 {
-    return statusOf(reply) / 100 == 3;
+    constexpr std::array redirects{301, 302, 303, 307, 308};
+    return std::find(redirects.begin(), redirects.end(), statusOf(reply)) != redirects.end();
 }
 
 QNetworkRequest requestFor(const QUrl& url, const std::optional<QSslConfiguration>& tls)

@@ -87,6 +87,7 @@ TEST_F(CheckTest, RefusesOtherRedirects)
 TEST_F(CheckTest, RefusesFeedsThatAreNone)
 {
     EXPECT_EQ(refusal(), u"localhost answered with the HTTP status 404"_s);
+    EXPECT_EQ(refusal("HTTP/1.1 304 Not Modified\r\n\r\n"), u"localhost answered with the HTTP status 304"_s);
     EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\nContent-Length: 7\r\n\r\n<html/>"),
               u"The update feed cannot be read: line 1: this is no RSS 2.0 feed"_s);
     // No length is announced, and the connection would stay open.
