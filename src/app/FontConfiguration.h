@@ -5,8 +5,7 @@
 namespace aerolith {
 
 /// Reads the desktop's font configuration on a thread of its own while the main thread has other things to
-/// do. Qt reads it itself at the first text, unless it has been read; after a cold start
-/// that is ten milliseconds of a hundred and thirty.
+/// do. Qt reads it itself at the first text, unless it has been read.
 class FontConfiguration
 {
 public:

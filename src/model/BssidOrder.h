@@ -41,8 +41,8 @@ struct BssidKey
 
     BssidKey(quint64 itsNumber, QStringView itsText) : number(itsNumber), text(itsText) {}
 
-    /// Not owned.
     quint64 number;
+    /// Whoever makes the key keeps the characters as long as the key.
     QStringView text;
 
     friend bool operator<(const BssidKey& a, const BssidKey& b)

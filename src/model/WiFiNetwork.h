@@ -44,7 +44,7 @@ struct WiFiNetwork
     bool isCurrentNetwork = false;
     /// Absent when not reported.
     std::optional<QString> countryCode;
-    /// As reported, milliseconds.
+    /// As reported, in units of 1024 microseconds; shown as milliseconds.
     qint64 beaconInterval = 0;
     /// An ad-hoc network.
     bool isIBSS = false;

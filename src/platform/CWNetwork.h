@@ -86,7 +86,7 @@ struct CWNetwork
     std::optional<CWChannel> wlanChannel;
     /// Two letters; absent when the access point sends none.
     std::optional<QString> countryCode;
-    /// In units of 1024 microseconds, which the program reads as milliseconds.
+    /// In units of 1024 microseconds.
     qint64 beaconInterval = 0;
     bool ibss = false;
     CodeSet securityCodes;

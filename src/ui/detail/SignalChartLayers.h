@@ -46,7 +46,6 @@ private:
     void paintArea(QPainter& painter) const;
     void paintSignalLine(QPainter& painter, double drawn) const;
     void paintNoiseLine(QPainter& painter) const;
-    void paintDots(QPainter& painter, const QList<HoverableDot>& dots) const;
     void paintValueLabels(QPainter& painter) const;
 
     [[nodiscard]] SignalChartGeometry geometry() const { return {history, size}; }
