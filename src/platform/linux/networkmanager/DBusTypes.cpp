@@ -34,6 +34,7 @@ void registerDBusTypes()
     [[maybe_unused]] static const bool registered = [] {
         registerWithSignature<PermissionMap>();
         registerWithSignature<ConnectionSettings>();
+        registerWithSignature<ManagedObjects>();
         registerWithSignature<DeviceStateReason>();
         registerWithSignature<QList<QByteArray>>();
         return true;

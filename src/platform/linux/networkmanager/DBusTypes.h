@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusArgument>
+#include <QDBusObjectPath>
 #include <QMap>
 #include <QString>
 #include <QVariantMap>
@@ -13,6 +14,9 @@ using PermissionMap = QMap<QString, QString>;
 
 /// A connection profile: its settings by section and name.
 using ConnectionSettings = QMap<QString, QVariantMap>;
+
+/// What there is: the properties of every object, by interface and name.
+using ManagedObjects = QMap<QDBusObjectPath, QMap<QString, QVariantMap>>;
 
 /// D-Bus "(uu)".
 struct DeviceStateReason

@@ -6,7 +6,7 @@
 #include "platform/linux/networkmanager/MainThread.h"
 
 #include <QDBusConnectionInterface>
-#include <QDBusPendingCall>
+#include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -28,6 +28,9 @@ using ManagerProxy = OrgFreedesktopNetworkManagerInterface;
 using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
 using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
+
+const auto wirelessInterface = u"org.freedesktop.NetworkManager.Device.Wireless"_s;
+const auto accessPointInterface = u"org.freedesktop.NetworkManager.AccessPoint"_s;
 
 constexpr auto switchTimeLimit = 10s;
 constexpr auto switchPollInterval = 50ms;
@@ -171,22 +174,25 @@ Result<std::optional<QString>> NetworkManager::activeAccessPointAddress(const QS
 Result<std::optional<QString>> NetworkManager::accessPoint(const QString& devicePath, const QString& address,
                                                            const QByteArray& ssid) const
 {
-    Call<WirelessProxy> call(m_bus, devicePath);
-    auto paths = call.proxy().GetAllAccessPoints();
-    paths.waitForFinished();
-    if (paths.isError()) {
-        return remoteError(paths.error()).error();
+    // Asking each access point for its name would take as many calls as there are.
+    auto question = QDBusMessage::createMethodCall(
+        serviceName, u"/org/freedesktop"_s, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
+    QDBusPendingReply<ManagedObjects> answer =
+        m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count()));
+    answer.waitForFinished();
+    if (answer.isError()) {
+        return remoteError(answer.error()).error();
     }
+    const auto objects = answer.value();
+    const auto device = objects[QDBusObjectPath(devicePath)][wirelessInterface];
     std::optional<QString> sameName;
-    for (const auto& path : paths.value()) {
-        // One that has gone meanwhile is not the one.
-        const auto name = read(m_bus, path.path(), &AccessPointProxy::ssid);
-        if (!name.ok() || name.value() != ssid) {
+    for (const auto& path : qdbus_cast<QList<QDBusObjectPath>>(device[u"AccessPoints"_s])) {
+        const auto heard = objects[path][accessPointInterface];
+        if (heard[u"Ssid"_s].toByteArray() != ssid) {
             continue;
         }
         sameName = path.path();
-        const auto heard = read(m_bus, path.path(), &AccessPointProxy::hwAddress);
-        if (heard.ok() && heard.value().toLower() == address) {
+        if (heard[u"HwAddress"_s].toString().toLower() == address) {
             break;
         }
     }

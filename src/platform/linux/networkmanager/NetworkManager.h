@@ -89,7 +89,7 @@ public:
     [[nodiscard]] Result<std::optional<QString>> activeAccessPointAddress(const QString& devicePath) const;
 
     /// The object of the access point with that address and name, else of any with that name; absent when
-    /// NetworkManager has heard none.
+    /// the device has heard none. One call, however many it has heard.
     [[nodiscard]] Result<std::optional<QString>>
     accessPoint(const QString& devicePath, const QString& address, const QByteArray& ssid) const;
 

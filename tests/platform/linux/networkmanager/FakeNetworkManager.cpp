@@ -53,7 +53,7 @@ FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
         this,
         [this, busAddress] {
             auto connection = QDBusConnection::connectToBus(busAddress, m_connectionName);
-            connection.registerVirtualObject(managerPath, this, QDBusConnection::SubPath);
+            connection.registerVirtualObject(u"/org/freedesktop"_s, this, QDBusConnection::SubPath);
             connection.registerService(managerInterface);
             connection.registerService(u"org.freedesktop.PolicyKit1"_s);
         },
@@ -213,9 +213,15 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
     if (member == u"GetPermissions"_s) {
         return call.createReply(QVariant::fromValue(m_permissions));
     }
-    if (member == u"GetDevices"_s || member == u"GetAllAccessPoints"_s) {
-        const auto path = member == u"GetDevices"_s ? devicePath : accessPointPath;
-        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(path)}));
+    if (member == u"GetDevices"_s) {
+        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(devicePath)}));
+    }
+    if (member == u"GetManagedObjects"_s) {
+        ManagedObjects objects;
+        addDevice(objects, devicePath, {accessPointPath});
+        addAccessPoint(objects, accessPointPath, m_properties[u"AccessPoint.HwAddress"_s].toString(),
+                       m_properties[u"AccessPoint.Ssid"_s].toByteArray());
+        return call.createReply(QVariant::fromValue(objects));
     }
     if (member == u"GetDeviceByIpIface"_s) {
         return call.arguments().value(0) == u"wlan0"_s
@@ -241,6 +247,23 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
         return call.createReply();
     }
     return call.createErrorReply(QDBusError::UnknownMethod, member);
+}
+
+void addDevice(ManagedObjects& objects, const QString& path, const QStringList& accessPoints)
+{
+    QList<QDBusObjectPath> paths;
+    for (const auto& accessPoint : accessPoints) {
+        paths.append(QDBusObjectPath(accessPoint));
+    }
+    objects[QDBusObjectPath(path)][managerInterface + u".Device.Wireless"_s] = {
+        {u"AccessPoints"_s, QVariant::fromValue(paths)}};
+}
+
+void addAccessPoint(ManagedObjects& objects, const QString& path, const QString& address,
+                    const QByteArray& ssid)
+{
+    objects[QDBusObjectPath(path)][managerInterface + u".AccessPoint"_s] = {{u"HwAddress"_s, address},
+                                                                            {u"Ssid"_s, ssid}};
 }
 
 FakeNetworkManager::Reaction vanish()

@@ -85,6 +85,11 @@ private:
     QThread m_thread;
 };
 
+/// Adds a Wi-Fi device that hears these access points, or an access point, to what there is.
+void addDevice(ManagedObjects& objects, const QString& path, const QStringList& accessPoints);
+void addAccessPoint(ManagedObjects& objects, const QString& path, const QString& address,
+                    const QByteArray& ssid);
+
 /// Reactions that several tests use.
 [[nodiscard]] FakeNetworkManager::Reaction vanish();
 [[nodiscard]] FakeNetworkManager::Reaction refuse(const QString& errorName);

@@ -47,6 +47,25 @@ TEST_F(NetworkManagerTest, tellsAbsentFromFailed)
     EXPECT_FALSE(m_manager.device(u"wlan0"_s).ok());
 }
 
+TEST_F(NetworkManagerTest, findsTheAccessPointOfTheDeviceInOneCall)
+{
+    ManagedObjects objects;
+    addDevice(objects, wlan0, {u"/first"_s, u"/second"_s, u"/third"_s});
+    addDevice(objects, u"/wlan1"_s, {u"/others"_s});
+    addAccessPoint(objects, u"/first"_s, u"02:00:00:00:00:0A"_s, "home");
+    addAccessPoint(objects, u"/second"_s, u"02:00:00:00:00:0B"_s, "home");
+    addAccessPoint(objects, u"/third"_s, u"02:00:00:00:00:0C"_s, "cafe");
+    addAccessPoint(objects, u"/others"_s, u"02:00:00:00:00:0D"_s, "office");
+    m_fake.on(u"GetManagedObjects"_s, reply(QVariant::fromValue(objects)));
+    const auto found = [this](const QString& address, const QByteArray& ssid) {
+        return m_manager.accessPoint(wlan0, address, ssid).value();
+    };
+    EXPECT_EQ(found(u"02:00:00:00:00:0a"_s, "home"), u"/first"_s);
+    EXPECT_EQ(found(u"02:00:00:00:00:0b"_s, "home"), u"/second"_s);
+    EXPECT_EQ(found(u"02:00:00:00:00:0b"_s, "cafe"), u"/third"_s) << "the name decides";
+    EXPECT_EQ(found(u"02:00:00:00:00:0d"_s, "office"), std::nullopt) << "another device's";
+}
+
 TEST_F(NetworkManagerTest, passesEveryByteOfAName)
 {
     const auto name = "caf\xc3\xa9\0\xff"_ba;
