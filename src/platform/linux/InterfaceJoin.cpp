@@ -21,19 +21,23 @@ class Join
 {
 public:
     Join(LinuxWireless& wireless, const NetworkManager& manager, QString interfaceName, QString devicePath,
-         const CWNetwork& network)
+         const CWNetwork& network, QString accessPointPath)
         : m_wireless(wireless)
         , m_manager(manager)
         , m_interfaceName(std::move(interfaceName))
         , m_devicePath(std::move(devicePath))
         , m_network(network)
-        , m_accessPointPath(accessPoint())
+        , m_accessPointPath(std::move(accessPointPath))
     {
     }
 
     [[nodiscard]] Failure run(const QString& password)
     {
-        const auto stored = storedProfile(m_manager.bus(), m_devicePath, m_network);
+        const auto found = storedProfile(m_manager.bus(), m_devicePath, m_network);
+        if (!found.ok()) {
+            return found.error();
+        }
+        const auto& stored = found.value();
         if (stored && password.isEmpty()) {
             return activate(*stored);
         }
@@ -53,13 +57,6 @@ public:
     }
 
 private:
-    [[nodiscard]] QString accessPoint() const
-    {
-        const auto path = m_manager.accessPoint(m_devicePath, *m_network.bssid, m_network.ssidData);
-        // The root path stands for "any".
-        return path.ok() ? path.value().value_or(u"/"_s) : u"/"_s;
-    }
-
     [[nodiscard]] bool isHidden() const
     {
         return nl80211::hidesName(m_wireless.entries(m_interfaceName), *m_network.bssid);
@@ -146,12 +143,9 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
     if (!info.ok()) {
         return info.error();
     }
-    const NetworkManager manager(wireless.bus);
+    const NetworkManager manager(wireless.bus, wireless.stopped);
     if (!manager.isRunning()) {
         return Error{JoinTexts::tr("NetworkManager is not running")};
-    }
-    if (auto silence = manager.awaitAnswer()) {
-        return silence;
     }
     const auto device = manager.device(name);
     if (!device.ok()) {
@@ -163,8 +157,15 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
     if (auto obstacle = deviceObstacle(manager, name)) {
         return obstacle;
     }
+    const auto& devicePath = device.value()->path;
+    const auto accessPoint = manager.accessPoint(devicePath, *network.bssid, network.ssidData);
+    if (!accessPoint.ok()) {
+        return accessPoint.error();
+    }
     const Secret secret(password.value_or(QString()));
-    return Join(wireless, manager, name, device.value()->path, network).run(secret.text());
+    // The root path stands for "any".
+    return Join(wireless, manager, name, devicePath, network, accessPoint.value().value_or(u"/"_s))
+        .run(secret.text());
 }
 
 } // namespace aerolith

@@ -44,9 +44,6 @@ Result<ChosenService> chooseService(LinuxWireless& wireless, const InterfaceInfo
     if (!manager.isRunning()) {
         return kernelService(wireless, info, u"NetworkManager is not running"_s);
     }
-    if (auto silence = manager.awaitAnswer()) {
-        return *silence;
-    }
     const auto device = manager.device(info.name);
     if (!device.ok()) {
         return device.error();
@@ -107,7 +104,7 @@ Result<QList<CWNetwork>> scanInterface(LinuxWireless& wireless, const QString& n
     if (!info.ok()) {
         return info.error();
     }
-    const NetworkManager manager(wireless.bus);
+    const NetworkManager manager(wireless.bus, wireless.stopped);
     const auto chosen = chooseService(wireless, info.value(), manager);
     if (!chosen.ok()) {
         return chosen.error();

@@ -84,15 +84,15 @@ bool LinuxInterface::powerOn() const
 
 Failure LinuxInterface::setPower(bool on)
 {
-    const NetworkManager manager(m_wireless->bus);
+    const NetworkManager manager(m_wireless->bus, m_wireless->stopped);
     if (!manager.isRunning()) {
         return Error{u"NetworkManager is not running"_s};
     }
-    if (auto silence = manager.awaitAnswer()) {
-        return silence;
-    }
     const auto switches = manager.radioSwitches();
-    if (on && switches.ok() && !switches.value().hardwareEnabled) {
+    if (!switches.ok()) {
+        return switches.error();
+    }
+    if (on && !switches.value().hardwareEnabled) {
         return Error{u"A switch or key of this machine keeps the Wi-Fi radio off"_s};
     }
     const auto error = manager.setWirelessEnabled(on);

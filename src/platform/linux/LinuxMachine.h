@@ -26,8 +26,8 @@ public:
 
     [[nodiscard]] HostAddresses& hostAddresses() { return m_hostAddresses; }
 
-    /// Ends the scans and joins that are under way, and every later one, at once: to be called before a queue
-    /// that scans is destroyed, which waits for its scan. Any thread.
+    /// Ends the scans and joins that are under way, and every later one, within moments and whatever they
+    /// wait for: to be called before a queue that scans is destroyed, which waits for its scan. Any thread.
     void stopScanning() { m_wifiClient.stopScanning(); }
 
 private:

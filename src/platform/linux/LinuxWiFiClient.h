@@ -21,7 +21,8 @@ public:
 
     [[nodiscard]] std::shared_ptr<CWInterface> interface() override;
 
-    /// Ends the scans and joins that are under way, and every later one, at once; they fail. Any thread.
+    /// Ends the scans and joins that are under way, and every later one, within moments; they fail. Any
+    /// thread.
     void stopScanning();
 
 private:

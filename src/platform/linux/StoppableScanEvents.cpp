@@ -1,9 +1,7 @@
 #include "platform/linux/StoppableScanEvents.h"
 
+#include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/MainThread.h"
-
-#include <QEventLoop>
-#include <QTimer>
 
 #include <algorithm>
 #include <chrono>
@@ -12,24 +10,12 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using nl80211::ScanEvent;
 
 namespace {
 
-constexpr auto interval = std::chrono::milliseconds(100);
-constexpr int handled = 1;
-
-/// On the main thread, handles the events that are waiting, all but the user's input; false once the
-/// application quits.
-bool keepWindowsAlive()
-{
-    if (!isMainThread()) {
-        return true;
-    }
-    QEventLoop loop;
-    QTimer::singleShot(0, &loop, [&loop] { loop.exit(handled); });
-    return loop.exec(QEventLoop::ExcludeUserInputEvents) == handled;
-}
+constexpr auto interval = 100ms;
 
 } // namespace
 
@@ -42,7 +28,7 @@ StoppableScanEvents::StoppableScanEvents(std::shared_ptr<nl80211::ScanEvents> ev
 Result<std::optional<ScanEvent>> StoppableScanEvents::wait(Deadline deadline)
 {
     auto lastTurn = nl80211::bootTimeNow();
-    while (!m_stopped && keepWindowsAlive()) {
+    while (!m_stopped && (!isMainThread() || pause(0ms, m_stopped))) {
         const auto turn = std::min(deadline, Deadline::clock::now() + interval);
         const auto event = m_events->wait(turn);
         const auto now = nl80211::bootTimeNow();

@@ -4,6 +4,8 @@
 
 #include <linux/nl80211.h>
 
+#include <utility>
+
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
@@ -69,6 +71,9 @@ void FakeKernel::tell(ScanStage stage, const QList<QByteArray>& ssids)
 
 std::optional<ScanEvent> FakeKernel::next(nl80211::ScanEvents::Deadline deadline)
 {
+    if (const auto reaction = std::exchange(whenWaitedFor, {})) {
+        reaction();
+    }
     std::unique_lock lock(m_mutex);
     if (!m_changed.wait_until(lock, deadline, [this] { return !m_events.empty(); })) {
         return {};

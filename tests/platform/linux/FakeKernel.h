@@ -47,6 +47,8 @@ public:
     std::optional<Error> eventsFailure;
     /// As soon as somebody listens to the events of one interface.
     std::function<void()> whenListenedTo;
+    /// As soon as somebody waits for an event, once.
+    std::function<void()> whenWaitedFor;
     /// Of the events, which come without it.
     std::optional<int> descriptor;
 

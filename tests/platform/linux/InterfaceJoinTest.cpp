@@ -10,6 +10,7 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QSemaphore>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,6 +20,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 const auto joined = u"joined"_s;
 const auto stored = u"/org/freedesktop/NetworkManager/Settings/3"_s;
@@ -183,21 +185,50 @@ TEST_F(InterfaceJoinTest, aStoredProfileTakesAPasswordOnlyOnceItHasJoined)
                 })));
 }
 
-TEST_F(InterfaceJoinTest, windowsLiveOnWhileTheDesktopIsAskedForThePassword)
+TEST_F(InterfaceJoinTest, windowsLiveOnWhateverItWaitsFor)
 {
-    store(u"correct horse"_s);
-    QSemaphore handled;
-    bool inTime = false;
-    m_fake->on(u"GetSecrets"_s, [&](const QDBusMessage& call) {
-        QMetaObject::invokeMethod(
-            qApp, [&handled] { handled.release(); }, Qt::QueuedConnection);
-        inTime = handled.tryAcquire(1, 5'000);
-        return call.createReply(
-            QVariant::fromValue(ConnectionSettings{{security, {{u"psk"_s, u"correct horse"_s}}}}));
+    store(u"old horse"_s);
+    QStringList frozen;
+    m_fake->beforeEach([&](const QString& member) {
+        if (!mainThreadLives()) {
+            frozen.append(member);
+        }
     });
     EXPECT_EQ(join(), joined);
-    EXPECT_TRUE(inTime);
-    EXPECT_EQ(changes(), QStringList(activate));
+    EXPECT_THAT(changes(), ElementsAre(addAndActivate, updateOf(stored), activate));
+
+    m_fake->setActivation({{40, 0}}, 0);
+    m_fake->beforeEach([&](const QString& member) {
+        if (!mainThreadLives()) {
+            frozen.append(member);
+        }
+        if (member == addAndActivate) {
+            m_client->stopScanning();
+        }
+    });
+    EXPECT_EQ(join(), u"The attempt to join was stopped"_s);
+    EXPECT_EQ(m_fake->calls(u"DeactivateConnection"_s).size(), 1);
+    EXPECT_THAT(frozen, IsEmpty());
+}
+
+TEST_F(InterfaceJoinTest, quittingEndsItWhileNetworkManagerHangs)
+{
+    QSemaphore ended;
+    bool inTime = false;
+    m_fake->on(u"GetManagedObjects"_s, [&](const QDBusMessage& call) {
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        inTime = ended.tryAcquire(1, 5'000);
+        return call.createReply();
+    });
+    QString outcome = joined;
+    QTimer::singleShot(0, [&] {
+        outcome = join();
+        ended.release();
+    });
+    QCoreApplication::exec();
+    m_fake->end();
+    EXPECT_TRUE(inTime) << "it was the answer that ended the join";
+    EXPECT_NE(outcome, joined);
 }
 
 TEST_F(InterfaceJoinTest, saysWhatStandsInTheWay)

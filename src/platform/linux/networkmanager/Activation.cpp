@@ -1,13 +1,12 @@
 #include "platform/linux/networkmanager/Activation.h"
 
+#include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/InteractiveCall.h"
 
-#include <QCoreApplication>
 #include <QDBusObjectPath>
-#include <QDBusPendingReply>
+#include <QDBusPendingCallWatcher>
 #include <QTimer>
 
-#include <org.freedesktop.NetworkManager.Device.h>
 #include <org.freedesktop.NetworkManager.h>
 #include <utility>
 
@@ -59,9 +58,8 @@ Activation::Activation(const NetworkManager& manager, QString devicePath, std::c
     , m_busEnd(manager.bus())
 {
     auto bus = m_manager.bus().connection();
-    bus.connect(NetworkManager::serviceName, m_devicePath,
-                QString::fromLatin1(OrgFreedesktopNetworkManagerDeviceInterface::staticInterfaceName()),
-                u"StateChanged"_s, this, SLOT(deviceStateChanged(uint, uint, uint)));
+    bus.connect(NetworkManager::serviceName, m_devicePath, NetworkManager::deviceInterface, u"StateChanged"_s,
+                this, SLOT(deviceStateChanged(uint, uint, uint)));
     bus.connect(NetworkManager::serviceName, QString(), u"org.freedesktop.NetworkManager.Connection.Active"_s,
                 u"StateChanged"_s, this, SLOT(activeStateChanged(uint, uint, QDBusMessage)));
     connect(&m_serviceWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
@@ -94,6 +92,10 @@ ActivationEnd Activation::activateNew(const ConnectionSettings& settings, const 
 
 ActivationEnd Activation::follow(const QDBusMessage& request, const std::atomic<bool>& stopped)
 {
+    // Nothing is begun that would have to be ended at once.
+    if (!m_manager.bus().pause(0ms)) {
+        return m_end;
+    }
     QDBusPendingCallWatcher answer(
         m_manager.bus().connection().asyncCall(request, answerTimeoutMilliseconds));
     connect(&answer, &QDBusPendingCallWatcher::finished, this, [this, &answer] { take(answer); });
@@ -109,7 +111,9 @@ ActivationEnd Activation::follow(const QDBusMessage& request, const std::atomic<
     // Also returns when the application quits.
     m_loop.exec(QEventLoop::ExcludeUserInputEvents);
     if (m_end.outcome == ActivationOutcome::stopped) {
-        awaitAnswer(answer);
+        // What NetworkManager has been asked for can be ended only by the answer's name for it.
+        awaitAtEnd([this] { return m_isAnswered; }, lastAnswerLimit);
+        m_end.outcome = ActivationOutcome::stopped;
     }
     const auto goesOn =
         m_end.outcome == ActivationOutcome::outOfTime || m_end.outcome == ActivationOutcome::stopped;
@@ -119,19 +123,9 @@ ActivationEnd Activation::follow(const QDBusMessage& request, const std::atomic<
     return m_end;
 }
 
-/// What NetworkManager has been asked for can be ended only by the answer's name for it. At the application's
-/// end loops no longer run, but events are still handled; the check's timer sees to it that some come.
-void Activation::awaitAnswer(const QDBusPendingCallWatcher& answer)
-{
-    const QDeadlineTimer deadline(lastAnswerLimit);
-    while (!answer.isFinished() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
-    }
-    m_end.outcome = ActivationOutcome::stopped;
-}
-
 void Activation::take(const QDBusPendingCall& answer)
 {
+    m_isAnswered = true;
     if (answer.isError()) {
         m_end.refusal = remoteError(answer.error());
         finish(ActivationOutcome::refused);

@@ -7,7 +7,6 @@
 #include "platform/linux/networkmanager/RemoteError.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -72,7 +71,8 @@ public:
     /// waits for both is not served.
     static constexpr std::chrono::milliseconds usualTimeLimit = std::chrono::seconds(60);
 
-    /// Watches the device from here on. `manager` outlives this object.
+    /// Watches the device from here on. `manager`, which is to handle events while it waits, outlives this
+    /// object.
     Activation(const NetworkManager& manager, QString devicePath,
                std::chrono::milliseconds timeLimit = usualTimeLimit);
 
@@ -95,7 +95,6 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] ActivationEnd follow(const QDBusMessage& request, const std::atomic<bool>& stopped);
-    void awaitAnswer(const QDBusPendingCallWatcher& answer);
     void take(const QDBusPendingCall& answer);
     void checkEnd();
     void finish(ActivationOutcome outcome);
@@ -108,6 +107,7 @@ private:
     BusEnd m_busEnd;
     QEventLoop m_loop;
     QDeadlineTimer m_deadline = QDeadlineTimer::Forever;
+    bool m_isAnswered = false;
     /// The newest state of every active connection that has changed: the answer, which says which is ours,
     /// may come later.
     QHash<QString, uint> m_activeStates;

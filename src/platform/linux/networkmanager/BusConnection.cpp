@@ -1,6 +1,10 @@
 #include "platform/linux/networkmanager/BusConnection.h"
 
-#include <atomic>
+#include "platform/linux/networkmanager/AwaitCall.h"
+
+#include <QDBusPendingCall>
+
+#include <thread>
 
 namespace aerolith {
 
@@ -23,11 +27,35 @@ BusConnection::BusConnection(const BusAddress& address, std::chrono::millisecond
 {
 }
 
+BusConnection::BusConnection(const BusAddress& address, const std::atomic<bool>& stopped)
+    : m_callLimit(usualCallLimit), m_stopped(&stopped), m_connection(connectTo(address))
+{
+}
+
 BusConnection::~BusConnection()
 {
     const auto name = m_connection.name();
     m_connection = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(name);
+}
+
+void BusConnection::await(const QDBusPendingCall& call) const
+{
+    if (m_stopped != nullptr) {
+        awaitCall(call, *m_stopped);
+        return;
+    }
+    auto same = call;
+    same.waitForFinished();
+}
+
+bool BusConnection::pause(std::chrono::milliseconds duration) const
+{
+    if (m_stopped != nullptr) {
+        return aerolith::pause(duration, *m_stopped);
+    }
+    std::this_thread::sleep_for(duration);
+    return true;
 }
 
 } // namespace aerolith

@@ -5,13 +5,18 @@
 #include "platform/linux/networkmanager/NetworkManager.h"
 #include "platform/linux/networkmanager/RemoteError.h"
 
+#include <QDBusArgument>
+#include <QDBusPendingCall>
+#include <QMetaType>
+#include <QVariant>
+
 #include <optional>
 
 namespace aerolith {
 
-/// One call to an object of NetworkManager, through the proxy of one of its interfaces; ends within the
-/// connection's limit. One per call: a proxy keeps the error of an earlier call after a later one that
-/// succeeded.
+// Calls to objects of NetworkManager. Each ends within the connection's limit.
+
+/// One by the proxy of an interface, whose methods return before they are answered.
 template <typename Proxy>
 class Call
 {
@@ -24,28 +29,37 @@ public:
 
     Proxy& proxy() { return m_proxy; }
 
-    /// Only after a property was read or written.
-    [[nodiscard]] std::optional<RemoteError> failure() const
-    {
-        const auto error = m_proxy.lastError();
-        return error.isValid() ? std::optional(remoteError(error)) : std::nullopt;
-    }
-
 private:
     Proxy m_proxy;
 };
 
+/// One to an interface that there is no proxy for.
+[[nodiscard]] QDBusPendingCall callMethod(const BusConnection& bus, const QString& path,
+                                          const QString& interface, const QString& method,
+                                          const QVariantList& arguments = {});
+
+/// Waits for the answer to a call, as the connection does; why there is none.
+[[nodiscard]] std::optional<RemoteError> awaitAnswer(const BusConnection& bus, const QDBusPendingCall& call);
+
+/// A property's value as it comes; the error also tells of another type than that.
+[[nodiscard]] Result<QVariant> readOfType(QMetaType type, const BusConnection& bus, const QString& path,
+                                          const QString& interface, const QString& name);
+
 /// A property's value.
-template <typename Value, typename Proxy>
-[[nodiscard]] Result<Value> read(const BusConnection& bus, const QString& path,
-                                 Value (Proxy::*getter)() const)
+template <typename Value>
+[[nodiscard]] Result<Value> read(const BusConnection& bus, const QString& path, const QString& interface,
+                                 const QString& name)
 {
-    Call<Proxy> call(bus, path);
-    auto value = (call.proxy().*getter)();
-    if (const auto failure = call.failure()) {
-        return failure->error();
+    const auto value = readOfType(QMetaType::fromType<Value>(), bus, path, interface, name);
+    if (!value.ok()) {
+        return value.error();
     }
-    return value;
+    return qdbus_cast<Value>(value.value());
 }
+
+/// Changes a property's value.
+[[nodiscard]] std::optional<RemoteError> write(const BusConnection& bus, const QString& path,
+                                               const QString& interface, const QString& name,
+                                               const QVariant& value);
 
 } // namespace aerolith

@@ -29,7 +29,7 @@ DecliningAgent::DecliningAgent(const BusConnection& bus) : m_bus(bus)
     connection.registerVirtualObject(agentPath, this);
     Call<OrgFreedesktopNetworkManagerAgentManagerInterface> call(m_bus, managerPath);
     // No two agents of one user may have the same name.
-    call.proxy().Register(u"aerolith.p%1"_s.arg(QCoreApplication::applicationPid())).waitForFinished();
+    m_bus.await(call.proxy().Register(u"aerolith.p%1"_s.arg(QCoreApplication::applicationPid())));
 }
 
 // Closing the connection unregisters the agent too; the next join may come before that.

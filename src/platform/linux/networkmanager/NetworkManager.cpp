@@ -3,18 +3,14 @@
 #include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
-#include "platform/linux/networkmanager/MainThread.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
-#include <QEventLoop>
-#include <QTimer>
 
-#include <org.freedesktop.NetworkManager.AccessPoint.h>
 #include <org.freedesktop.NetworkManager.Device.Wireless.h>
-#include <org.freedesktop.NetworkManager.Device.h>
 #include <org.freedesktop.NetworkManager.h>
 
 namespace aerolith {
@@ -25,23 +21,31 @@ using namespace std::chrono_literals;
 namespace {
 
 using ManagerProxy = OrgFreedesktopNetworkManagerInterface;
-using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using WirelessProxy = OrgFreedesktopNetworkManagerDeviceWirelessInterface;
-using AccessPointProxy = OrgFreedesktopNetworkManagerAccessPointInterface;
 
 const auto wirelessInterface = u"org.freedesktop.NetworkManager.Device.Wireless"_s;
 const auto accessPointInterface = u"org.freedesktop.NetworkManager.AccessPoint"_s;
 
+const auto wirelessEnabled = u"WirelessEnabled"_s;
+
 constexpr auto switchTimeLimit = 10s;
 constexpr auto switchPollInterval = 50ms;
+constexpr auto lastCallLimit = 2s;
 
 } // namespace
 
 const QString NetworkManager::serviceName = u"org.freedesktop.NetworkManager"_s;
 const QString NetworkManager::objectPath = u"/org/freedesktop/NetworkManager"_s;
+const QString NetworkManager::deviceInterface = u"org.freedesktop.NetworkManager.Device"_s;
 
 NetworkManager::NetworkManager(const BusAddress& address, std::chrono::milliseconds callLimit)
     : m_bus(address, callLimit)
+{
+    registerDBusTypes();
+}
+
+NetworkManager::NetworkManager(const BusAddress& address, const std::atomic<bool>& stopped)
+    : m_bus(address, stopped)
 {
     registerDBusTypes();
 }
@@ -54,29 +58,13 @@ bool NetworkManager::isRunning() const
     return bus != nullptr && bus->isServiceRegistered(serviceName).value();
 }
 
-Failure NetworkManager::awaitAnswer() const
-{
-    if (!isMainThread()) {
-        return {};
-    }
-    auto question = QDBusMessage::createMethodCall(serviceName, objectPath,
-                                                   u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-    question << QString::fromLatin1(ManagerProxy::staticInterfaceName()) << u"WirelessEnabled"_s;
-    const auto answer = m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count()));
-    awaitCall(answer);
-    if (!answer.isFinished()) {
-        return Error{u"NetworkManager has not answered yet"_s};
-    }
-    return answer.isError() ? Failure(remoteError(answer.error()).error()) : Failure();
-}
-
 Result<RadioSwitches> NetworkManager::radioSwitches() const
 {
-    const auto enabled = read(m_bus, objectPath, &ManagerProxy::wirelessEnabled);
+    const auto enabled = read<bool>(m_bus, objectPath, serviceName, wirelessEnabled);
     if (!enabled.ok()) {
         return enabled.error();
     }
-    const auto hardwareEnabled = read(m_bus, objectPath, &ManagerProxy::wirelessHardwareEnabled);
+    const auto hardwareEnabled = read<bool>(m_bus, objectPath, serviceName, u"WirelessHardwareEnabled"_s);
     if (!hardwareEnabled.ok()) {
         return hardwareEnabled.error();
     }
@@ -85,50 +73,37 @@ Result<RadioSwitches> NetworkManager::radioSwitches() const
 
 std::optional<RemoteError> NetworkManager::setWirelessEnabled(bool enabled) const
 {
-    Call<ManagerProxy> call(m_bus, objectPath);
-    call.proxy().setWirelessEnabled(enabled);
-    const auto failure = call.failure();
+    const auto failure = write(m_bus, objectPath, serviceName, wirelessEnabled, enabled);
     // The answer to a property's change does not wait for the permission check behind it.
     return failure ? failure : awaitSwitch(enabled);
 }
 
 std::optional<RemoteError> NetworkManager::awaitSwitch(bool enabled) const
 {
-    std::optional<RemoteError> end =
-        RemoteError{RemoteFailure::noAnswer, u"NetworkManager did not switch the Wi-Fi radio"_s};
     const QDeadlineTimer deadline(switchTimeLimit);
-    QEventLoop loop;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        const auto now = read(m_bus, objectPath, &ManagerProxy::wirelessEnabled);
+    do {
+        const auto now = read<bool>(m_bus, objectPath, serviceName, wirelessEnabled);
         if (!now.ok()) {
-            end = RemoteError{RemoteFailure::other, now.error().description};
-        } else if (now.value() == enabled) {
-            end.reset();
-        } else if (!deadline.hasExpired()) {
-            return;
+            return RemoteError{RemoteFailure::other, now.error().description};
         }
-        loop.quit();
-    });
-    poll.start(switchPollInterval);
-    // Also returns when the application quits.
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return end;
+        if (now.value() == enabled) {
+            return {};
+        }
+    } while (!deadline.hasExpired() && m_bus.pause(switchPollInterval));
+    return RemoteError{RemoteFailure::noAnswer, u"NetworkManager did not switch the Wi-Fi radio"_s};
 }
 
 Result<std::optional<ManagedDevice>> NetworkManager::device(const QString& interfaceName) const
 {
     Call<ManagerProxy> call(m_bus, objectPath);
-    auto path = call.proxy().GetDeviceByIpIface(interfaceName);
-    path.waitForFinished();
-    if (path.isError()) {
-        const auto error = remoteError(path.error());
-        if (error.failure == RemoteFailure::unknownObject) {
+    const auto path = call.proxy().GetDeviceByIpIface(interfaceName);
+    if (const auto error = awaitAnswer(m_bus, path)) {
+        if (error->failure == RemoteFailure::unknownObject) {
             return std::optional<ManagedDevice>();
         }
-        return error.error();
+        return error->error();
     }
-    const auto state = read(m_bus, path.value().path(), &DeviceProxy::stateReason);
+    const auto state = read<DeviceStateReason>(m_bus, path.value().path(), deviceInterface, u"StateReason"_s);
     if (!state.ok()) {
         return state.error();
     }
@@ -138,7 +113,7 @@ Result<std::optional<ManagedDevice>> NetworkManager::device(const QString& inter
 
 Result<std::optional<std::chrono::milliseconds>> NetworkManager::lastScan(const QString& devicePath) const
 {
-    const auto milliseconds = read(m_bus, devicePath, &WirelessProxy::lastScan);
+    const auto milliseconds = read<qlonglong>(m_bus, devicePath, wirelessInterface, u"LastScan"_s);
     if (!milliseconds.ok()) {
         return milliseconds.error();
     }
@@ -149,14 +124,12 @@ std::optional<RemoteError> NetworkManager::requestScan(const QString& devicePath
                                                        const std::optional<QByteArray>& ssid) const
 {
     Call<WirelessProxy> call(m_bus, devicePath);
-    auto reply = call.proxy().RequestScan(scanOptions(ssid));
-    reply.waitForFinished();
-    return reply.isError() ? std::optional(remoteError(reply.error())) : std::nullopt;
+    return awaitAnswer(m_bus, call.proxy().RequestScan(scanOptions(ssid)));
 }
 
 Result<std::optional<QString>> NetworkManager::activeAccessPointAddress(const QString& devicePath) const
 {
-    const auto path = read(m_bus, devicePath, &WirelessProxy::activeAccessPoint);
+    const auto path = read<QDBusObjectPath>(m_bus, devicePath, wirelessInterface, u"ActiveAccessPoint"_s);
     if (!path.ok()) {
         return path.error();
     }
@@ -164,7 +137,7 @@ Result<std::optional<QString>> NetworkManager::activeAccessPointAddress(const QS
     if (path.value().path() == u"/"_s) {
         return std::optional<QString>();
     }
-    const auto address = read(m_bus, path.value().path(), &AccessPointProxy::hwAddress);
+    const auto address = read<QString>(m_bus, path.value().path(), accessPointInterface, u"HwAddress"_s);
     if (!address.ok()) {
         return address.error();
     }
@@ -175,13 +148,10 @@ Result<std::optional<QString>> NetworkManager::accessPoint(const QString& device
                                                            const QByteArray& ssid) const
 {
     // Asking each access point for its name would take as many calls as there are.
-    auto question = QDBusMessage::createMethodCall(
-        serviceName, u"/org/freedesktop"_s, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
-    QDBusPendingReply<ManagedObjects> answer =
-        m_bus.connection().asyncCall(question, static_cast<int>(m_bus.callLimit().count()));
-    answer.waitForFinished();
-    if (answer.isError()) {
-        return remoteError(answer.error()).error();
+    const QDBusPendingReply<ManagedObjects> answer = callMethod(
+        m_bus, u"/org/freedesktop"_s, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
+    if (const auto error = awaitAnswer(m_bus, answer)) {
+        return error->error();
     }
     const auto objects = answer.value();
     const auto device = objects[QDBusObjectPath(devicePath)][wirelessInterface];
@@ -202,8 +172,9 @@ Result<std::optional<QString>> NetworkManager::accessPoint(const QString& device
 void NetworkManager::deactivate(const QString& activePath) const
 {
     Call<ManagerProxy> call(m_bus, objectPath);
-    // One that has ended meanwhile cannot be ended.
-    call.proxy().DeactivateConnection(QDBusObjectPath(activePath)).waitForFinished();
+    // Wakes the loop. One that has ended meanwhile cannot be ended.
+    const QDBusPendingCallWatcher answer(call.proxy().DeactivateConnection(QDBusObjectPath(activePath)));
+    awaitAtEnd([&answer] { return answer.isFinished(); }, lastCallLimit);
 }
 
 std::optional<std::chrono::milliseconds> lastScanTime(qint64 milliseconds)

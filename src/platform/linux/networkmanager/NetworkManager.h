@@ -44,31 +44,30 @@ struct ManagedDevice
     DeviceState state = DeviceState::unknown;
 };
 
-/// NetworkManager as seen by one thread: every operation blocks until the answer is there, at most for the
-/// limit given. To be made and used on the same thread; but for setWirelessEnabled() it needs no event loop.
+/// NetworkManager as seen by one thread: every operation waits until the answer is there, as BusConnection
+/// does, and at most for the limit given. To be made and used on the same thread.
 class NetworkManager
 {
 public:
     static const QString serviceName;
     static const QString objectPath;
+    /// Of NetworkManager's devices.
+    static const QString deviceInterface;
 
     explicit NetworkManager(const BusAddress& address,
                             std::chrono::milliseconds callLimit = BusConnection::usualCallLimit);
+    /// Handles the thread's events while it waits. Where a wait is ended, the operation fails: `stopped` is
+    /// as for BusConnection.
+    NetworkManager(const BusAddress& address, const std::atomic<bool>& stopped);
     ~NetworkManager();
 
     /// Also false when there is no bus.
     [[nodiscard]] bool isRunning() const;
 
-    /// On the main thread, waits for NetworkManager to answer any question and handles the thread's events
-    /// meanwhile, all but the user's input: before the first operation there, which would stop all windows
-    /// where NetworkManager hangs. The error is that it has not answered. On other threads it does nothing.
-    [[nodiscard]] Failure awaitAnswer() const;
-
     [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
 
     /// Switches the radio of every Wi-Fi device and waits until it reports the change, at most ten more
-    /// seconds or until the application quits. Meanwhile the thread handles its events, all but the user's
-    /// input.
+    /// seconds.
     [[nodiscard]] std::optional<RemoteError> setWirelessEnabled(bool enabled) const;
 
     /// Absent when NetworkManager has no device of that interface name.
@@ -93,7 +92,8 @@ public:
     [[nodiscard]] Result<std::optional<QString>>
     accessPoint(const QString& devicePath, const QString& address, const QByteArray& ssid) const;
 
-    /// Ends an active connection, by its object; returns before it has ended.
+    /// Ends an active connection, by its object; returns before it has ended. NetworkManager's answer is
+    /// waited for on the event loop, also while the application quits, but for two seconds at most.
     void deactivate(const QString& activePath) const;
 
     [[nodiscard]] const BusConnection& bus() const { return m_bus; }

@@ -1,11 +1,9 @@
 #include "platform/linux/networkmanager/StoredProfile.h"
 
 #include "platform/Secret.h"
-#include "platform/linux/networkmanager/AwaitCall.h"
 #include "platform/linux/networkmanager/Call.h"
 #include "platform/linux/networkmanager/JoinSettings.h"
 
-#include <org.freedesktop.NetworkManager.Device.h>
 #include <org.freedesktop.NetworkManager.Settings.Connection.h>
 
 namespace aerolith {
@@ -14,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using DeviceProxy = OrgFreedesktopNetworkManagerDeviceInterface;
 using ProfileProxy = OrgFreedesktopNetworkManagerSettingsConnectionInterface;
 
 constexpr uint toDisk = 0x1;
@@ -22,26 +19,29 @@ constexpr uint toDisk = 0x1;
 Failure update(const BusConnection& bus, const QString& path, const ConnectionSettings& settings)
 {
     Call<ProfileProxy> call(bus, path);
-    auto updated = call.proxy().Update2(settings, toDisk, {});
-    updated.waitForFinished();
-    return updated.isError() ? Failure(remoteError(updated.error()).error()) : std::nullopt;
+    const auto failure = awaitAnswer(bus, call.proxy().Update2(settings, toDisk, {}));
+    return failure ? Failure(failure->error()) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
-                                           const CWNetwork& network)
+Result<std::optional<StoredProfile>> storedProfile(const BusConnection& bus, const QString& devicePath,
+                                                   const CWNetwork& network)
 {
-    const auto paths = read(bus, devicePath, &DeviceProxy::availableConnections);
+    const auto paths = read<QList<QDBusObjectPath>>(bus, devicePath, NetworkManager::deviceInterface,
+                                                    u"AvailableConnections"_s);
     if (!paths.ok()) {
-        return {};
+        return paths.error();
     }
     QList<StoredProfile> profiles;
     for (const auto& path : paths.value()) {
         Call<ProfileProxy> call(bus, path.path());
-        auto settings = call.proxy().GetSettings();
-        settings.waitForFinished();
-        if (!settings.isError()) {
+        const auto settings = call.proxy().GetSettings();
+        const auto failure = awaitAnswer(bus, settings);
+        if (failure && failure->failure == RemoteFailure::noAnswer) {
+            return failure->error();
+        }
+        if (!failure) {
             profiles.append({path.path(), settings.value()});
         }
     }
@@ -75,12 +75,8 @@ Result<bool> hasPassword(const BusConnection& bus, const StoredProfile& profile,
     }
     Call<ProfileProxy> call(bus, profile.path);
     auto secrets = call.proxy().GetSecrets(securitySection);
-    awaitCall(secrets);
-    if (!secrets.isFinished()) {
-        return Error{u"NetworkManager has not answered yet"_s};
-    }
-    if (secrets.isError()) {
-        return false;
+    if (const auto failure = awaitAnswer(bus, secrets)) {
+        return secrets.isFinished() ? Result<bool>(false) : failure->error();
     }
     auto stored = secrets.value()[securitySection].value(name).toString();
     const auto isSame = stored == settings[securitySection].value(name).toString();

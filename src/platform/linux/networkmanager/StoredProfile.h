@@ -20,9 +20,10 @@ struct StoredProfile
 };
 
 /// The profile for the network that was used last, of those that NetworkManager could activate on the device
-/// now and that this user may see; absent where there is none.
-[[nodiscard]] std::optional<StoredProfile> storedProfile(const BusConnection& bus, const QString& devicePath,
-                                                         const CWNetwork& network);
+/// now and that this user may see; absent where there is none. The error is that NetworkManager does not say
+/// which it could activate.
+[[nodiscard]] Result<std::optional<StoredProfile>>
+storedProfile(const BusConnection& bus, const QString& devicePath, const CWNetwork& network);
 
 /// Of these the profile for the network, by its name and security, that was used last, the first of several;
 /// absent where none is for it. Settings of a wrong type count as not set.
@@ -30,8 +31,8 @@ struct StoredProfile
                                                          const CWNetwork& network);
 
 /// Whether `settings` hold no password but the one that the profile has; false where this user may not know
-/// that one. NetworkManager may have to ask the desktop for it: meanwhile the thread handles its events, all
-/// but the user's input. The error is that the application quits.
+/// that one, or NetworkManager does not tell in time: it may have to ask the desktop. The error is that the
+/// wait was ended.
 [[nodiscard]] Result<bool> hasPassword(const BusConnection& bus, const StoredProfile& profile,
                                        const ConnectionSettings& settings);
 

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
+#include <functional>
 
 namespace aerolith {
 namespace {
@@ -36,12 +36,21 @@ protected:
                                       FakeNetworkManager::accessPointPath, m_stopped);
     }
 
-    /// How one ends that the application's end finds under way.
-    ActivationOutcome activateNewUntilTheApplicationQuits()
+    /// Runs on the main thread when the next activation has been asked for.
+    void whenAsked(const std::function<void()>& reaction)
+    {
+        m_fake->beforeEach([reaction](const QString& member) {
+            if (member == u"AddAndActivateConnection2"_s) {
+                QMetaObject::invokeMethod(qApp, reaction, Qt::QueuedConnection);
+            }
+        });
+    }
+
+    /// How one ends during which the application quits.
+    ActivationOutcome activateNewAndQuit()
     {
         auto outcome = failed;
         QTimer::singleShot(0ms, [&] { outcome = activateNew().outcome; });
-        QTimer::singleShot(200ms, [] { QCoreApplication::quit(); });
         QCoreApplication::exec();
         return outcome;
     }
@@ -51,8 +60,8 @@ protected:
 
     PrivateBus m_bus;
     std::optional<FakeNetworkManager> m_fake{std::in_place, m_bus.address()};
-    NetworkManager m_manager{m_bus.address()};
     std::atomic<bool> m_stopped = false;
+    NetworkManager m_manager{m_bus.address(), m_stopped};
 };
 
 TEST_F(ActivationTest, endsWithTheActiveConnection)
@@ -97,25 +106,27 @@ TEST_F(ActivationTest, whatHasNotSucceededIsEnded)
     EXPECT_EQ(late.state, DeviceState::gettingAddress);
     EXPECT_EQ(ended(), 1);
 
-    std::thread stopper([this] {
-        std::this_thread::sleep_for(200ms);
-        m_stopped = true;
-    });
+    whenAsked([this] { m_stopped = true; });
     EXPECT_EQ(activateNew().outcome, stopped);
-    stopper.join();
     EXPECT_EQ(ended(), 2);
     m_stopped = false;
 
-    EXPECT_EQ(activateNewUntilTheApplicationQuits(), stopped);
+    whenAsked([] { QTimer::singleShot(200ms, [] { QCoreApplication::quit(); }); });
+    EXPECT_EQ(activateNewAndQuit(), stopped);
     EXPECT_EQ(ended(), 3);
 
+    whenAsked([] { QCoreApplication::quit(); });
     m_fake->on(u"AddAndActivateConnection2"_s, [](const QDBusMessage& call) {
-        std::this_thread::sleep_for(400ms);
+        EXPECT_TRUE(mainThreadLives()) << "has taken in that it is to quit";
         return call.createReply({QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::newProfilePath)),
                                  QVariant::fromValue(QDBusObjectPath(FakeNetworkManager::activePath))});
     });
-    EXPECT_EQ(activateNewUntilTheApplicationQuits(), stopped);
+    EXPECT_EQ(activateNewAndQuit(), stopped);
     EXPECT_EQ(ended(), 4) << "before it is answered, too";
+
+    m_stopped = true;
+    EXPECT_EQ(activateNew().outcome, stopped);
+    EXPECT_EQ(m_fake->calls(u"AddAndActivateConnection2"_s).size(), 4) << "nor is another begun";
 }
 
 TEST_F(ActivationTest, tellsRefusedFromVanished)

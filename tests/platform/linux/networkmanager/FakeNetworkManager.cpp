@@ -1,10 +1,14 @@
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QMutexLocker>
+#include <QSemaphore>
 #include <QUuid>
+
+#include <memory>
 
 namespace aerolith {
 
@@ -158,6 +162,12 @@ void FakeNetworkManager::on(const QString& member, const Reaction& reaction)
     m_reactions[member] = reaction;
 }
 
+void FakeNetworkManager::beforeEach(const std::function<void(const QString& member)>& told)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_beforeEach = told;
+}
+
 QList<QDBusMessage> FakeNetworkManager::calls(const QString& member) const
 {
     const QMutexLocker lock(&m_mutex);
@@ -189,10 +199,15 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage& message, const QDBusC
 QDBusMessage FakeNetworkManager::answer(const QString& member, const QDBusMessage& call)
 {
     Reaction reaction;
+    std::function<void(const QString&)> beforeEach;
     {
         const QMutexLocker lock(&m_mutex);
         m_calls.append({member, call});
         reaction = m_reactions.value(member);
+        beforeEach = m_beforeEach;
+    }
+    if (beforeEach) {
+        beforeEach(member);
     }
     return reaction ? reaction(call) : usualAnswer(member, call);
 }
@@ -264,6 +279,14 @@ void addAccessPoint(ManagedObjects& objects, const QString& path, const QString&
 {
     objects[QDBusObjectPath(path)][managerInterface + u".AccessPoint"_s] = {{u"HwAddress"_s, address},
                                                                             {u"Ssid"_s, ssid}};
+}
+
+bool mainThreadLives()
+{
+    const auto handled = std::make_shared<QSemaphore>();
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [handled] { handled->release(); }, Qt::QueuedConnection);
+    return handled->tryAcquire(1, 5'000);
 }
 
 FakeNetworkManager::Reaction vanish()

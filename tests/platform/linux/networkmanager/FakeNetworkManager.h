@@ -60,6 +60,9 @@ public:
     /// call.
     void on(const QString& member, const Reaction& reaction);
 
+    /// Is told of every call, by its name, before that is answered; on the service's own thread.
+    void beforeEach(const std::function<void(const QString& member)>& told);
+
     /// Calls of that name so far, as on() names them.
     [[nodiscard]] QList<QDBusMessage> calls(const QString& member) const;
 
@@ -79,6 +82,7 @@ private:
     QMap<QString, QVariant> m_properties;
     QMap<QString, QString> m_permissions;
     QHash<QString, Reaction> m_reactions;
+    std::function<void(const QString&)> m_beforeEach;
     QList<std::pair<QString, QDBusMessage>> m_calls;
     QList<DeviceStateReason> m_activationStates;
     quint32 m_activeState = 2;
@@ -89,6 +93,9 @@ private:
 void addDevice(ManagedObjects& objects, const QString& path, const QStringList& accessPoints);
 void addAccessPoint(ManagedObjects& objects, const QString& path, const QString& address,
                     const QByteArray& ssid);
+
+/// Whether the main thread, which waits for the service meanwhile, handles an event.
+[[nodiscard]] bool mainThreadLives();
 
 /// Reactions that several tests use.
 [[nodiscard]] FakeNetworkManager::Reaction vanish();

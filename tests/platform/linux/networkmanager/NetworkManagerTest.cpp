@@ -91,7 +91,8 @@ TEST_F(NetworkManagerTest, waitsUntilTheRadioHasSwitched)
     });
     bool repainted = false;
     QTimer::singleShot(0, [&repainted] { repainted = true; });
-    EXPECT_FALSE(m_manager.setWirelessEnabled(false));
+    const std::atomic<bool> stopped = false;
+    EXPECT_FALSE(NetworkManager(m_bus.address(), stopped).setWirelessEnabled(false));
     EXPECT_TRUE(repainted) << "the thread's events are handled meanwhile";
     EXPECT_EQ(reads, 3);
     const auto set = m_fake.calls(u"Set "_s + property);
