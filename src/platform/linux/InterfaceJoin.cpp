@@ -3,6 +3,7 @@
 #include "platform/JoinTexts.h"
 #include "platform/Secret.h"
 #include "platform/linux/DeviceObstacle.h"
+#include "platform/linux/Management.h"
 #include "platform/linux/networkmanager/Activation.h"
 #include "platform/linux/networkmanager/JoinFailure.h"
 #include "platform/linux/networkmanager/JoinSettings.h"
@@ -144,20 +145,18 @@ Failure joinNetwork(LinuxWireless& wireless, const QString& name, const CWNetwor
         return info.error();
     }
     const NetworkManager manager(wireless.bus, wireless.stopped);
-    if (!manager.isRunning()) {
-        return Error{JoinTexts::tr("NetworkManager is not running")};
+    const auto management = managementOf(manager, name);
+    if (!management.ok()) {
+        return management.error();
     }
-    const auto device = manager.device(name);
-    if (!device.ok()) {
-        return device.error();
-    }
-    if (!device.value() || device.value()->state == DeviceState::unmanaged) {
-        return Error{JoinTexts::tr("NetworkManager does not manage the Wi-Fi interface %1").arg(name)};
+    const auto& device = management.value().device;
+    if (!device) {
+        return Error{management.value().whyNot};
     }
     if (auto obstacle = deviceObstacle(manager, name)) {
         return obstacle;
     }
-    const auto& devicePath = device.value()->path;
+    const auto& devicePath = device->path;
     const auto accessPoint = manager.accessPoint(devicePath, *network.bssid, network.ssidData);
     if (!accessPoint.ok()) {
         return accessPoint.error();

@@ -3,6 +3,7 @@
 #include "platform/linux/AwaitScan.h"
 #include "platform/linux/KernelScan.h"
 #include "platform/linux/LastScanEvents.h"
+#include "platform/linux/Management.h"
 #include "platform/linux/NetworkManagerScan.h"
 #include "platform/linux/RadioSwitch.h"
 #include "platform/linux/StoppableScanEvents.h"
@@ -41,20 +42,16 @@ ChosenService kernelService(LinuxWireless& wireless, const InterfaceInfo& info,
 Result<ChosenService> chooseService(LinuxWireless& wireless, const InterfaceInfo& info,
                                     const NetworkManager& manager)
 {
-    if (!manager.isRunning()) {
-        return kernelService(wireless, info, u"NetworkManager is not running"_s);
+    const auto management = managementOf(manager, info.name);
+    if (!management.ok()) {
+        return management.error();
     }
-    const auto device = manager.device(info.name);
-    if (!device.ok()) {
-        return device.error();
-    }
-    if (!device.value() || device.value()->state == DeviceState::unmanaged) {
-        return kernelService(wireless, info,
-                             u"NetworkManager does not manage the Wi-Fi interface %1"_s.arg(info.name));
+    const auto& device = management.value().device;
+    if (!device) {
+        return kernelService(wireless, info, management.value().whyNot);
     }
     return ChosenService{
-        std::make_shared<NetworkManagerScan>(manager, wireless.askedNames, info.name, device.value()->path),
-        true};
+        std::make_shared<NetworkManagerScan>(manager, wireless.askedNames, info.name, device->path), true};
 }
 
 Result<std::shared_ptr<nl80211::ScanEvents>> eventsFor(const ChosenService& chosen, LinuxWireless& wireless,

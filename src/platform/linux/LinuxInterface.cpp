@@ -86,7 +86,7 @@ Failure LinuxInterface::setPower(bool on)
 {
     const NetworkManager manager(m_wireless->bus, m_wireless->stopped);
     if (!manager.isRunning()) {
-        return Error{u"NetworkManager is not running"_s};
+        return notRunning().error();
     }
     const auto switches = manager.radioSwitches();
     if (!switches.ok()) {

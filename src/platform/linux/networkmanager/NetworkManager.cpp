@@ -52,10 +52,10 @@ NetworkManager::NetworkManager(const BusAddress& address, const std::atomic<bool
 
 NetworkManager::~NetworkManager() = default;
 
-bool NetworkManager::isRunning() const
+bool NetworkManager::isRunningOn(const BusConnection& bus)
 {
-    const auto* bus = m_bus.connection().interface();
-    return bus != nullptr && bus->isServiceRegistered(serviceName).value();
+    const auto* daemon = bus.connection().interface();
+    return daemon != nullptr && daemon->isServiceRegistered(serviceName).value();
 }
 
 Result<RadioSwitches> NetworkManager::radioSwitches() const

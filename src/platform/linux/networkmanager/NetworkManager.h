@@ -62,7 +62,9 @@ public:
     ~NetworkManager();
 
     /// Also false when there is no bus.
-    [[nodiscard]] bool isRunning() const;
+    [[nodiscard]] bool isRunning() const { return isRunningOn(m_bus); }
+
+    [[nodiscard]] static bool isRunningOn(const BusConnection& bus);
 
     [[nodiscard]] Result<RadioSwitches> radioSwitches() const;
 

@@ -70,6 +70,11 @@ QString describe(RemoteFailure failure, const QString& message)
 
 } // namespace
 
+RemoteError notRunning()
+{
+    return {RemoteFailure::notRunning, describe(RemoteFailure::notRunning, {})};
+}
+
 RemoteError remoteError(const QDBusError& error)
 {
     const auto failure = failureNamed(error.name());

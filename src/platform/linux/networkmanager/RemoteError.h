@@ -34,6 +34,9 @@ struct RemoteError
     [[nodiscard]] Error error() const { return {description}; }
 };
 
+/// Where it is plain before any call.
+[[nodiscard]] RemoteError notRunning();
+
 /// The one place that knows the names of D-Bus and NetworkManager errors.
 [[nodiscard]] RemoteError remoteError(const QDBusError& error);
 

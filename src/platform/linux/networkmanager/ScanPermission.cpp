@@ -7,7 +7,6 @@
 #include "platform/linux/networkmanager/PolkitAuthority.h"
 #include "platform/linux/networkmanager/RemoteError.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
@@ -90,15 +89,9 @@ void ScanPermission::connectToBus()
 void ScanPermission::connectAgain()
 {
     connectToBus();
-    if (isServiceRegistered()) {
+    if (NetworkManager::isRunningOn(m_link->bus)) {
         setRunning(true);
     }
-}
-
-bool ScanPermission::isServiceRegistered() const
-{
-    const auto* bus = m_link->bus.connection().interface();
-    return bus != nullptr && bus->isServiceRegistered(NetworkManager::serviceName).value();
 }
 
 void ScanPermission::ask()
@@ -167,7 +160,7 @@ void ScanPermission::decide(bool granted)
 
 void ScanPermission::readFirst()
 {
-    m_running = isServiceRegistered();
+    m_running = NetworkManager::isRunningOn(m_link->bus);
     if (m_running) {
         m_link->manager.setTimeout(firstReadTimeoutMilliseconds);
         auto reply = m_link->manager.GetPermissions();

@@ -69,7 +69,6 @@ private:
 
     void connectToBus();
     void connectAgain();
-    [[nodiscard]] bool isServiceRegistered() const;
     void readFirst();
     void read();
     void take(const QDBusPendingCall& call);
