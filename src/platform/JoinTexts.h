@@ -9,6 +9,14 @@ namespace aerolith {
 struct JoinTexts
 {
     Q_DECLARE_TR_FUNCTIONS(JoinFailure)
+
+public:
+    [[nodiscard]] static QString radioOff() { return tr("The Wi-Fi radio is off"); }
+
+    [[nodiscard]] static QString interfaceGone(const QString& name)
+    {
+        return tr("The Wi-Fi interface %1 is gone").arg(name);
+    }
 };
 
 } // namespace aerolith

@@ -11,14 +11,14 @@ Failure deviceObstacle(const NetworkManager& manager, const QString& interfaceNa
         return switches.error();
     }
     if (!switches.value().on()) {
-        return Error{JoinTexts::tr("The Wi-Fi radio is off")};
+        return Error{JoinTexts::radioOff()};
     }
     const auto device = manager.device(interfaceName);
     if (!device.ok()) {
         return device.error();
     }
     if (!device.value()) {
-        return Error{JoinTexts::tr("The Wi-Fi interface %1 is gone").arg(interfaceName)};
+        return Error{JoinTexts::interfaceGone(interfaceName)};
     }
     if (device.value()->state < DeviceState::disconnected) {
         return Error{JoinTexts::tr("The Wi-Fi interface %1 is not available").arg(interfaceName)};

@@ -1,5 +1,7 @@
 #include "platform/linux/KernelScan.h"
 
+#include "platform/JoinTexts.h"
+
 #include <utility>
 
 namespace aerolith {
@@ -17,7 +19,7 @@ KernelScan::KernelScan(nl80211::Nl80211& kernel, std::uint32_t interfaceIndex,
 
 Failure KernelScan::obstacle()
 {
-    return m_radioOn().value_or(true) ? Failure() : Error{u"The Wi-Fi radio is off"_s};
+    return m_radioOn().value_or(true) ? Failure() : Error{JoinTexts::radioOff()};
 }
 
 Failure KernelScan::request(const std::optional<QByteArray>& ssid)

@@ -27,7 +27,7 @@ Result<nl80211::InterfaceInfo> LinuxWireless::interface(const QString& name)
             return info;
         }
     }
-    return Error{JoinTexts::tr("The Wi-Fi interface %1 is gone").arg(name)};
+    return Error{JoinTexts::interfaceGone(name)};
 }
 
 QList<nl80211::BssEntry> LinuxWireless::entries(const QString& interfaceName)

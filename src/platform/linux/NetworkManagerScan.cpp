@@ -1,5 +1,6 @@
 #include "platform/linux/NetworkManagerScan.h"
 
+#include "platform/JoinTexts.h"
 #include "platform/linux/DeviceObstacle.h"
 
 #include <utility>
@@ -33,7 +34,7 @@ Failure NetworkManagerScan::request(const std::optional<QByteArray>& ssid)
     case RemoteFailure::permissionDenied:
         return Error{u"The system does not permit this user to scan for Wi-Fi networks"_s};
     case RemoteFailure::unknownObject:
-        return Error{u"The Wi-Fi interface %1 is gone"_s.arg(m_interfaceName)};
+        return Error{JoinTexts::interfaceGone(m_interfaceName)};
     case RemoteFailure::notAllowed:
         return whyNotAllowed();
     default:

@@ -173,7 +173,7 @@ Failure SimulatedInterface::refusal() const
         return Error{JoinTexts::tr("The Wi-Fi interface is gone")};
     }
     if (!m_powerOn) {
-        return Error{JoinTexts::tr("The Wi-Fi radio is off")};
+        return Error{JoinTexts::radioOff()};
     }
     return {};
 }
