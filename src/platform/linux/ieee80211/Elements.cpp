@@ -8,6 +8,24 @@ namespace {
 
 constexpr std::size_t headerSize = 2;
 
+struct Element
+{
+    ElementId id;
+    Bytes body;
+};
+
+/// Takes the first element off `rest`. Absent at the end, or where fewer bytes follow than the element
+/// claims.
+std::optional<Element> takeElement(Bytes& rest)
+{
+    if (rest.size() < headerSize || rest.size() - headerSize < rest[1]) {
+        return {};
+    }
+    const Element element{ElementId{rest[0]}, rest.subspan(headerSize, rest[1])};
+    rest = rest.subspan(headerSize + rest[1]);
+    return element;
+}
+
 /// Body after `prefix` of the first element that starts with it and has `minimum` more bytes.
 std::optional<Bytes> findWithPrefix(Bytes elements, ElementId id, Bytes prefix, std::size_t minimum)
 {
@@ -23,16 +41,6 @@ std::optional<Bytes> findWithPrefix(Bytes elements, ElementId id, Bytes prefix, 
 }
 
 } // namespace
-
-std::optional<Element> takeElement(Bytes& rest)
-{
-    if (rest.size() < headerSize || rest.size() - headerSize < rest[1]) {
-        return {};
-    }
-    const Element element{ElementId{rest[0]}, rest.subspan(headerSize, rest[1])};
-    rest = rest.subspan(headerSize + rest[1]);
-    return element;
-}
 
 std::optional<Bytes> findElement(Bytes elements, ElementId id, std::size_t minimum)
 {

@@ -37,16 +37,6 @@ enum class ExtensionId : std::uint8_t
 /// Organisation (three bytes) and its own type (one byte) at the start of a vendor-specific element's body.
 using VendorType = std::array<std::uint8_t, 4>;
 
-struct Element
-{
-    ElementId id;
-    Bytes body;
-};
-
-/// Takes the first element off `rest`. Absent at the end, or where fewer bytes follow than the element
-/// claims.
-[[nodiscard]] std::optional<Element> takeElement(Bytes& rest);
-
 /// Body of the first such element that has at least `minimum` bytes.
 [[nodiscard]] std::optional<Bytes> findElement(Bytes elements, ElementId id, std::size_t minimum = 0);
 
