@@ -1,20 +1,17 @@
 #include "platform/linux/networkmanager/ScanPermission.h"
 
-#include "platform/linux/networkmanager/BusEnd.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/InteractiveCall.h"
 #include "platform/linux/networkmanager/NetworkManager.h"
-#include "platform/linux/networkmanager/PolkitAuthority.h"
+#include "platform/linux/networkmanager/PermissionLink.h"
 #include "platform/linux/networkmanager/RemoteError.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 
 #include <chrono>
 #include <limits>
 #include <org.freedesktop.NetworkManager.Device.Wireless.h>
-#include <org.freedesktop.NetworkManager.h>
 #include <utility>
 
 namespace aerolith {
@@ -24,74 +21,28 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto retryInterval = 2s;
-constexpr int firstReadTimeoutMilliseconds = 1'000;
-constexpr int readTimeoutMilliseconds = 25'000;
+constexpr auto firstReadLimit = 1s;
+constexpr auto readLimit = 25s;
 // As long as the user takes to find the password; in D-Bus the largest value means no limit.
 constexpr int askTimeoutMilliseconds = std::numeric_limits<int>::max();
 
 } // namespace
 
-struct ScanPermission::Link
-{
-    explicit Link(const BusAddress& address)
-        : bus(address)
-        , end(bus)
-        , serviceWatcher(NetworkManager::serviceName, bus.connection())
-        , manager(NetworkManager::serviceName, NetworkManager::objectPath, bus.connection())
-        , polkit(bus.connection())
-    {
-    }
-
-    BusConnection bus;
-    BusEnd end;
-    QDBusServiceWatcher serviceWatcher;
-    OrgFreedesktopNetworkManagerInterface manager;
-    /// Some versions of NetworkManager (1.42) keep polkit's changes to themselves.
-    PolkitAuthority polkit;
-};
-
 ScanPermission::ScanPermission(const BusAddress& address, std::function<void()> changed)
-    : m_address(address), m_changed(std::move(changed)), m_calls(std::make_unique<QObject>())
+    : m_changed(std::move(changed)), m_calls(std::make_unique<QObject>())
 {
     registerDBusTypes();
-    m_retry.setInterval(retryInterval);
-    QObject::connect(&m_retry, &QTimer::timeout, m_calls.get(), [this] { connectAgain(); });
-    connectToBus();
+    m_link = std::make_unique<PermissionLink>(address);
+    QObject::connect(m_link.get(), &PermissionLink::permissionsMayHaveChanged, m_calls.get(),
+                     [this] { read(); });
+    QObject::connect(m_link.get(), &PermissionLink::runningChanged, m_calls.get(),
+                     [this](bool running) { setRunning(running); });
     readFirst();
 }
 
 ScanPermission::~ScanPermission()
 {
     m_calls.reset();
-}
-
-void ScanPermission::connectToBus()
-{
-    m_link = std::make_unique<Link>(m_address);
-    if (!m_link->bus.connection().isConnected()) {
-        m_retry.start();
-        return;
-    }
-    m_retry.stop();
-    QObject::connect(&m_link->end, &BusEnd::reached, m_calls.get(), [this] {
-        setRunning(false);
-        m_retry.start();
-    });
-    QObject::connect(&m_link->manager, &OrgFreedesktopNetworkManagerInterface::CheckPermissions,
-                     m_calls.get(), [this] { read(); });
-    QObject::connect(&m_link->polkit, &PolkitAuthority::Changed, m_calls.get(), [this] { read(); });
-    QObject::connect(
-        &m_link->serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, m_calls.get(),
-        [this](const QString&, const QString&, const QString& owner) { setRunning(!owner.isEmpty()); });
-}
-
-void ScanPermission::connectAgain()
-{
-    connectToBus();
-    if (NetworkManager::isRunningOn(m_link->bus)) {
-        setRunning(true);
-    }
 }
 
 void ScanPermission::ask()
@@ -111,7 +62,7 @@ void ScanPermission::ask()
 void ScanPermission::askUser()
 {
     m_asking = Asking::underWay;
-    watch(m_link->manager.GetDevices(), [this](const QDBusPendingCall& call) {
+    watch(m_link->devices(), [this](const QDBusPendingCall& call) {
         const QDBusPendingReply<QList<QDBusObjectPath>> reply = call;
         QStringList paths;
         if (!reply.isError()) {
@@ -133,7 +84,7 @@ void ScanPermission::askDevices(const QStringList& paths)
     const auto message = interactiveCall(
         paths.first(), OrgFreedesktopNetworkManagerDeviceWirelessInterface::staticInterfaceName(),
         u"RequestScan"_s, {scanOptions({})});
-    watch(m_link->bus.connection().asyncCall(message, askTimeoutMilliseconds),
+    watch(m_link->call(message, askTimeoutMilliseconds),
           [this, others = paths.mid(1)](const QDBusPendingCall& call) {
               if (!call.isError()) {
                   decide(true);
@@ -160,12 +111,10 @@ void ScanPermission::decide(bool granted)
 
 void ScanPermission::readFirst()
 {
-    m_running = NetworkManager::isRunningOn(m_link->bus);
+    m_running = m_link->isNetworkManagerRunning();
     if (m_running) {
-        m_link->manager.setTimeout(firstReadTimeoutMilliseconds);
-        auto reply = m_link->manager.GetPermissions();
+        QDBusPendingReply<PermissionMap> reply = m_link->permissions(firstReadLimit);
         reply.waitForFinished();
-        m_link->manager.setTimeout(readTimeoutMilliseconds);
         if (reply.isError() && remoteError(reply.error()).failure == RemoteFailure::noAnswer) {
             read();
         } else {
@@ -177,7 +126,7 @@ void ScanPermission::readFirst()
 
 void ScanPermission::read()
 {
-    watch(m_link->manager.GetPermissions(), [this, number = ++m_reads](const QDBusPendingCall& call) {
+    watch(m_link->permissions(readLimit), [this, number = ++m_reads](const QDBusPendingCall& call) {
         if (number == m_reads) {
             take(call);
             update();

@@ -4,17 +4,17 @@
 
 #include <QObject>
 #include <QStringList>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
 #include <optional>
 
-class QDBusObjectPath;
 class QDBusPendingCall;
 class QDBusPendingCallWatcher;
 
 namespace aerolith {
+
+class PermissionLink;
 
 /// Whether NetworkManager lets this user scan for Wi-Fi networks, followed as it changes, also over the end
 /// of the bus and its new beginning. Main thread; needs its event loop.
@@ -62,13 +62,8 @@ private:
         underWay
     };
 
-    /// What a connection to the bus carries.
-    struct Link;
-
     using Finished = std::function<void(const QDBusPendingCall&)>;
 
-    void connectToBus();
-    void connectAgain();
     void readFirst();
     void read();
     void take(const QDBusPendingCall& call);
@@ -82,11 +77,8 @@ private:
     [[nodiscard]] State derivedState() const;
     void watch(const QDBusPendingCall& call, const Finished& finished);
 
-    const BusAddress m_address;
     std::function<void()> m_changed;
-    std::unique_ptr<Link> m_link;
-    /// Runs while there is no bus.
-    QTimer m_retry;
+    std::unique_ptr<PermissionLink> m_link;
     bool m_running = false;
     Answer m_answer = Answer::unread;
     /// What the user's proof came to, while the answer is `authentication`.
