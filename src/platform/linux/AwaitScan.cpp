@@ -60,68 +60,104 @@ std::optional<BootTime> newestScan(ScanService& service, BootTime begun, std::op
     return heard(since) ? std::optional(since) : std::nullopt;
 }
 
+/// One wait: takes in the events, and the silences between them, until one decides it.
+class ScanWait
+{
+public:
+    ScanWait(ScanService& service, nl80211::ScanEvents& events, const WaitStart& start,
+             const std::optional<QByteArray>& ssid, const Heard& heard)
+        : m_service(service), m_events(events), m_start(start), m_ssid(ssid), m_heard(heard)
+    {
+    }
+
+    [[nodiscard]] Result<BootTime> run()
+    {
+        const bool isListed = m_ssid && m_heard(BootTime::min());
+        auto decision = failed(m_service.request(isListed ? std::nullopt : m_ssid));
+        const auto requested = Deadline::clock::now();
+        m_lastDeadline = requested + endLimit;
+        m_deadline = requested + startLimit;
+        while (!decision) {
+            const auto event = m_events.wait(m_deadline);
+            if (!event.ok()) {
+                return event.error();
+            }
+            decision = event.value() ? take(*event.value()) : takeSilence();
+        }
+        return *decision;
+    }
+
+private:
+    /// Absent while the wait goes on.
+    using Decision = std::optional<Result<BootTime>>;
+
+    [[nodiscard]] static Decision failed(const Failure& failure)
+    {
+        return failure ? Decision(*failure) : Decision();
+    }
+
+    [[nodiscard]] Decision take(const ScanEvent& event)
+    {
+        if (event.stage == ScanStage::started) {
+            m_startSeen = true;
+            m_deadline = m_lastDeadline;
+            return {};
+        }
+        if (auto decision =
+                event.stage == ScanStage::finished ? takeEnd(event) : failed(m_service.obstacle())) {
+            return decision;
+        }
+        m_startSeen = false;
+        // A name is asked for by one scan alone, and forgotten where that one could not begin.
+        return m_ssid ? failed(m_service.request(m_ssid)) : Decision();
+    }
+
+    [[nodiscard]] Decision takeEnd(const ScanEvent& event)
+    {
+        const auto since = m_startSeen ? m_start.begun : runningSince(m_start);
+        if (!m_ssid || m_heard(since)) {
+            return since;
+        }
+        if (m_startSeen && asksFor(event, *m_ssid) && ++m_asked == questions) {
+            return m_start.begun;
+        }
+        return {};
+    }
+
+    [[nodiscard]] Decision takeSilence()
+    {
+        if (auto obstacle = m_service.obstacle()) {
+            return *obstacle;
+        }
+        if (const auto newest = newestScan(m_service, m_start.begun, m_start.lastScan, m_heard)) {
+            return *newest;
+        }
+        if (m_deadline == m_lastDeadline) {
+            return Error{u"The Wi-Fi scan did not end in time"_s};
+        }
+        m_deadline = m_lastDeadline; // a long one may be under way, whose start was not seen
+        return {};
+    }
+
+    ScanService& m_service;
+    nl80211::ScanEvents& m_events;
+    const WaitStart& m_start;
+    const std::optional<QByteArray>& m_ssid;
+    const Heard& m_heard;
+    Deadline m_deadline;
+    Deadline m_lastDeadline;
+    /// Of the scan that is under way.
+    bool m_startSeen = false;
+    /// How many scans have asked for the name in vain.
+    int m_asked = 0;
+};
+
 } // namespace
 
 Result<BootTime> awaitScan(ScanService& service, nl80211::ScanEvents& events, const WaitStart& start,
                            const std::optional<QByteArray>& ssid, const Heard& heard)
 {
-    const BootTime begun = start.begun;
-    const auto before = start.lastScan;
-    const bool isListed = ssid && heard(BootTime::min());
-    auto refusal = service.request(isListed ? std::nullopt : ssid);
-    const auto requested = Deadline::clock::now();
-    const auto lastDeadline = requested + endLimit;
-    auto deadline = requested + startLimit;
-    bool startSeen = false;
-    int asked = 0;
-    while (!refusal) {
-        const auto event = events.wait(deadline);
-        if (!event.ok()) {
-            return event.error();
-        }
-        if (!event.value()) {
-            if (auto obstacle = service.obstacle()) {
-                return *obstacle;
-            }
-            if (const auto newest = newestScan(service, begun, before, heard)) {
-                return *newest;
-            }
-            if (deadline == lastDeadline) {
-                return Error{u"The Wi-Fi scan did not end in time"_s};
-            }
-            deadline = lastDeadline; // a long one may be under way, whose start was not seen
-            continue;
-        }
-        switch (event.value()->stage) {
-        case ScanStage::started:
-            startSeen = true;
-            deadline = lastDeadline;
-            break;
-        case ScanStage::finished: {
-            const auto since = startSeen ? begun : runningSince(start);
-            if (!ssid || heard(since)) {
-                return since;
-            }
-            if (startSeen && asksFor(*event.value(), *ssid) && ++asked == questions) {
-                return begun;
-            }
-            break;
-        }
-        case ScanStage::aborted:
-            if (auto obstacle = service.obstacle()) {
-                return *obstacle;
-            }
-            break;
-        }
-        if (event.value()->stage != ScanStage::started) {
-            startSeen = false;
-            // A name is asked for by one scan alone, and forgotten where that one could not begin.
-            if (ssid) {
-                refusal = service.request(ssid);
-            }
-        }
-    }
-    return *refusal;
+    return ScanWait(service, events, start, ssid, heard).run();
 }
 
 } // namespace aerolith
