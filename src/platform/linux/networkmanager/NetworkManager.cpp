@@ -7,7 +7,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <QDeadlineTimer>
 
 #include <org.freedesktop.NetworkManager.Device.Wireless.h>
