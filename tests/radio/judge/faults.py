@@ -127,7 +127,8 @@ def main(results: Path) -> int:
             judge_history(Step(results, "history"), faults)
         if fault.name == "crowd":
             found = [line for line in fault.said("watch", "begun", "mended") if line.startswith("Found ")]
-            print(f"crowd: at most {max(int(line.split()[1]) for line in found)} in one scan")
+            faults.expect(found, "crowd: the watch has finished no scan")
+            print(f"crowd: at most {max((int(line.split()[1]) for line in found), default=0)} in one scan")
     for program, lines in logs.items():
         # Access points that are on the air have not all gone just because no scan took place.
         faults.expect("Found 0 networks" not in lines, f"{program} has taken a scan that failed for an empty air")
