@@ -1,7 +1,9 @@
 """Reads what `iw dev X scan dump -u` prints: a second, independent opinion on the bytes the kernel holds."""
 
 import re
+import sys
 from dataclasses import dataclass, field
+from pathlib import Path
 
 from heard import Heard
 
@@ -124,3 +126,17 @@ def sightings(entries: list[Entry], since: float = 0.0) -> dict[str, Entry]:
     for entry in sorted(entries, key=lambda e: (e.heard >= since, bool(e.ssid.strip(b"\0")), e.heard)):
         found[entry.bssid] = entry
     return found
+
+
+def facts(entry: Entry) -> str:
+    """What the program is to make of an entry, as one line of a table. A name of zeros alone is none."""
+    name = entry.ssid if entry.ssid.strip(b"\0") else b""
+    return "\t".join(map(str, (
+        entry.bssid, name.hex(), int(entry.signal), entry.channel, entry.width, entry.security, entry.country or "",
+        entry.beacon_interval, "ad hoc" if entry.ibss else "", ", ".join(entry.phy_modes))))
+
+
+if __name__ == "__main__":
+    dump = Path(sys.argv[1])
+    print(f"# tests/radio/judge/iw_dump.py {dump}")
+    print(*sorted(map(facts, parse(dump.read_text(encoding="utf-8")))), sep="\n")

@@ -47,6 +47,7 @@ TEST(Security, WithoutElementsIsThePrivacyBit)
 {
     EXPECT_EQ(codes({}, open), "0");
     EXPECT_EQ(codes(element(221, hex("506f9a1c")), open), "0") << "announces an OWE network beside it";
+    EXPECT_EQ(codes(rsn({18})), "14") << "encrypted all the same";
 }
 
 TEST(Security, OfPersonalNetworks)
@@ -66,7 +67,9 @@ TEST(Security, OfEnterpriseNetworks)
     EXPECT_EQ(codes(rsn({3, 1}, 0xc0)), "9 10");
     EXPECT_EQ(codes(rsn({5})), "9 10");
     EXPECT_EQ(codes(rsn({5}, 0xc0)), "10 12") << "management frames must be protected";
+    EXPECT_EQ(codes(rsn({12}, 0xc0)), "10 12");
     EXPECT_EQ(codes(rsn({1, 5}, 0x80)), "9 10");
+    EXPECT_EQ(codes(wpa(1) + rsn({1})), "7 8 9 10");
     EXPECT_EQ(codes(wpa(1) + rsn({2})), "4 5 7 10");
 }
 
