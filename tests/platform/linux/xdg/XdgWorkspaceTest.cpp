@@ -90,6 +90,14 @@ TEST_F(XdgWorkspaceTest, SaysWhyNothingOpens)
     EXPECT_EQ(
         workspace.openSettings(SettingsPage::network)->description,
         u"Cannot open the network settings: not installed: gnome-control-center, nm-connection-editor"_s);
+    for (const auto& [desktop, program] :
+         {std::pair("Budgie:GNOME", u"budgie-control-center, gnome-control-center, "_s),
+          std::pair("KDE", u"systemsettings, systemsettings5, "_s), std::pair("::", u""_s)}) {
+        qputenv("XDG_CURRENT_DESKTOP", desktop);
+        EXPECT_EQ(workspace.openSettings(SettingsPage::network)->description,
+                  u"Cannot open the network settings: not installed: %1nm-connection-editor"_s.arg(program));
+    }
+    qputenv("XDG_CURRENT_DESKTOP", "GNOME");
     const auto noTool =
         u"Cannot open a tool for network diagnostics: not installed: gnome-nettool, wireshark"_s;
     EXPECT_EQ(workspace.diagnosticsObstacle()->description, noTool);
