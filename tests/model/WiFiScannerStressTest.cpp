@@ -5,7 +5,8 @@
 #include "model/HiddenList.h"
 #include "model/Ordering.h"
 #include "model/SettingKeys.h"
-#include "platform/simulated/SimulatedRadio.h"
+#include "platform/simulated/SimulatedLocationManager.h"
+#include "platform/simulated/SimulatedWiFiClient.h"
 #include "support/Engine.h"
 #include "support/Printing.h"
 
@@ -27,6 +28,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto authorized = CLAuthorizationStatus::authorizedWhenInUse;
 constexpr int shortRun = 5'000;
 /// From here on the run is long enough to tell growth from warming up.
 constexpr int longRun = 100'000;
@@ -136,9 +138,9 @@ private:
 class Stress : private ManualSurroundings
 {
 public:
-    explicit Stress(int seed) : m_dice(seed), m_radio(air(m_dice), main)
+    explicit Stress(int seed) : m_dice(seed)
     {
-        m_scanner.emplace(m_selection, around(m_radio.wifiClient(), m_radio.locationManager()));
+        m_scanner.emplace(m_selection, around(m_wifiClient, m_locationManager));
         m_scanThread.emplace(scanTasks);
     }
 
@@ -214,8 +216,7 @@ private:
     void setAccess()
     {
         const bool withdrawn = m_dice.oneIn(2);
-        m_radio.setAuthorization(withdrawn ? CLAuthorizationStatus::denied
-                                           : CLAuthorizationStatus::authorizedWhenInUse);
+        m_locationManager.setAuthorization(withdrawn ? CLAuthorizationStatus::denied : authorized);
         if (withdrawn) {
             m_chosen.append(std::nullopt);
         }
@@ -249,7 +250,11 @@ private:
 
     Dice m_dice;
     Collation m_collation{QByteArray()};
-    SimulatedRadio m_radio;
+    SharedAuthorization m_authorization = std::make_shared<std::atomic<CLAuthorizationStatus>>(authorized);
+    std::shared_ptr<SimulatedInterface> m_interface =
+        std::make_shared<SimulatedInterface>(air(m_dice), m_authorization);
+    SimulatedWiFiClient m_wifiClient{m_interface};
+    SimulatedLocationManager m_locationManager{m_authorization, authorized, main};
     SelectionStore m_selection{main};
     std::optional<WiFiScanner> m_scanner;
     std::optional<ScanThread> m_scanThread;
@@ -274,8 +279,8 @@ private:
         },
         [this] { setAccess(); },
         [this] {
-            m_radio.switchPower(!m_dice.oneIn(4));
-            m_radio.setPluggedIn(!m_dice.oneIn(4));
+            m_interface->switchPower(!m_dice.oneIn(4));
+            m_interface->setPluggedIn(!m_dice.oneIn(4));
         },
         [this] { (void)m_scanner->findNetwork(u"Net 3"_s); },
         [this] { main.runOne(); },

@@ -20,19 +20,4 @@ void SimulatedRadio::stopScanning()
     m_interface->stopScanning();
 }
 
-void SimulatedRadio::setAuthorization(CLAuthorizationStatus status)
-{
-    m_locationManager.setAuthorization(status);
-}
-
-void SimulatedRadio::switchPower(bool on)
-{
-    m_interface->switchPower(on);
-}
-
-void SimulatedRadio::setPluggedIn(bool pluggedIn)
-{
-    m_interface->setPluggedIn(pluggedIn);
-}
-
 } // namespace aerolith

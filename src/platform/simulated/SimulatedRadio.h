@@ -10,9 +10,6 @@ namespace aerolith {
 
 /// A machine that follows a scenario, to be plugged in where the real one would be. It outlives whatever uses
 /// it; the main queue outlives it.
-///
-/// The program knows the machine only through what its first operations hand out. The others, from
-/// setAuthorization() on, are what happens around the program.
 class SimulatedRadio
 {
 public:
@@ -33,15 +30,6 @@ public:
     /// Ends the scans that are under way, and every later one, at once: to be called before a queue that
     /// scans is destroyed, which waits for its scan. Any thread.
     void stopScanning();
-
-    /// Main thread.
-    void setAuthorization(CLAuthorizationStatus status);
-
-    /// Any thread; never refused.
-    void switchPower(bool on);
-
-    /// Any thread. Plugging into a machine without an interface plugs a default one in.
-    void setPluggedIn(bool pluggedIn);
 
 private:
     const SharedAuthorization m_authorization;
