@@ -84,25 +84,15 @@ TEST(NetworkRecord, DerivesChannelWidthAndBand)
     }
 }
 
-TEST(NetworkRecord, CarriesEveryAnswerOfTheResult)
+TEST(NetworkRecord, NamesThePhyModesInTheirFixedOrder)
 {
-    CWNetwork result = network(u"0a:1b:2c:3d:4e:5f"_s, u"Harbor Loft"_s, -58);
-    result.ssidData = "raw";
-    result.wlanChannel = CWChannel{.channelNumber = 36, .channelWidth = 3};
-    result.countryCode = u"US"_s;
+    CWNetwork result = network(u"aa"_s, u"Quay"_s);
     result.beaconInterval = 50;
     result.ibss = true;
     for (const int mode : {6, 5, 4, 1}) {
         result.phyModeCodes.insert(mode);
     }
     const WiFiNetwork record = recordOf(result);
-    EXPECT_EQ(record.ssid, u"Harbor Loft"_s);
-    EXPECT_EQ(record.ssidBytes, "raw");
-    EXPECT_EQ(record.rssi, -58);
-    EXPECT_EQ(record.noise, -90);
-    EXPECT_EQ(record.channel, 36);
-    EXPECT_EQ(record.channelWidth, 80);
-    EXPECT_EQ(record.countryCode, u"US"_s);
     EXPECT_EQ(record.beaconInterval, 50);
     EXPECT_TRUE(record.isIBSS);
     EXPECT_EQ(record.isPhyModeSupported,

@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 using namespace aerolith;
 using namespace Qt::StringLiterals;
 
@@ -38,17 +36,6 @@ TEST(WiFiScannerList, AScanBringsBackTheScanOrder)
     engine.cycle(threeNetworks());
     EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"aa"_s, u"cc"_s, u"bb"_s}));
     EXPECT_EQ(engine.scanner->sortOption(), SortOption::ssid);
-}
-
-TEST(WiFiScannerList, TiesKeepTheirPlacesFromCycleToCycle)
-{
-    Engine engine;
-    QList<CWNetwork> results{network(u"cc"_s, u"C"_s), network(u"aa"_s, u"A"_s), network(u"bb"_s, u"B"_s)};
-    for (int i = 0; i < 3; ++i) {
-        engine.cycle(results);
-        EXPECT_EQ(engine.listedBSSIDs(), QStringList({u"aa"_s, u"bb"_s, u"cc"_s}));
-        std::rotate(results.begin(), results.begin() + 1, results.end());
-    }
 }
 
 TEST(WiFiScannerList, HidesAndShows)
