@@ -19,15 +19,20 @@ Result<Arguments> parsed(const QString& line)
 TEST(Arguments, AreRead)
 {
     const Arguments arguments =
-        parsed(u"--details aa:bb one.csv --interval 0.5 --sort channel --details cc:dd - --format json"_s)
+        parsed(u"--details aa:bb one.csv --interval 0.5 --simulate --sort channel --details cc:dd -"_s)
             .value();
     EXPECT_EQ(arguments.interval, 0.5);
     EXPECT_EQ(arguments.sort, SortOption::channel);
     ASSERT_EQ(arguments.details.size(), 2);
-    EXPECT_EQ(arguments.details[0].bssid, u"aa:bb"_s);
     EXPECT_EQ(arguments.details[0].file, u"one.csv"_s);
-    EXPECT_EQ(arguments.details[1].file, u"-"_s);
-    EXPECT_FALSE(parsed(u"--simulate --cycles 2"_s).value().simulate->scenarioFile);
+    EXPECT_EQ(arguments.details[1].bssid, u"cc:dd"_s);
+    EXPECT_EQ(arguments.simulate, Simulation{});
+
+    EXPECT_EQ(parsed(u"--cycles 3"_s).value().simulate, std::nullopt);
+    const Arguments named = parsed(u"--simulate town.json --cycles 3"_s).value();
+    EXPECT_EQ(named.simulate, Simulation{u"town.json"_s});
+    EXPECT_EQ(named.cycles, 3);
+    EXPECT_EQ(parsed(u"--simulate=-odd=name"_s).value().simulate, Simulation{u"-odd=name"_s});
 }
 
 TEST(Arguments, SayWhatWasExpected)
@@ -49,6 +54,8 @@ TEST(Arguments, SayWhatWasExpected)
         {u"--watch --format json"_s,
          u"--watch writes JSON lines as it scans, it does not go with --format"_s},
         {u"--record -"_s, u"--record needs a file, not \"-\": standard output is for what was heard"_s},
+        {u"--simulate a --simulate=b"_s, u"--simulate is given twice"_s},
+        {u"--simulate="_s, u"--simulate: the file name is empty"_s},
         {u"list.csv"_s, u"Unknown argument \"list.csv\" (try --help)"_s},
     };
     for (const auto& [line, description] : cases) {
