@@ -6,7 +6,7 @@
 namespace aerolith {
 
 /// Names that anybody may give a network: more than one line, markup, mnemonics, control characters, text
-/// that turns its surroundings around, towers of marks, the widest there are.
+/// that turns its surroundings around, towers of marks, the widest there are, nothing but pictures.
 inline QStringList hostileNames()
 {
     using namespace Qt::StringLiterals;
@@ -19,7 +19,8 @@ inline QStringList hostileNames()
             u"A"_s + QString(15, QChar(0x0301)),
             u"g"_s + QString(15, QChar(0x0323)),
             QString(32, u'W'),
-            u"﷽﷽﷽"_s};
+            u"﷽﷽﷽"_s,
+            u"\U0001F4F6"_s.repeated(8)};
 }
 
 } // namespace aerolith
