@@ -3,7 +3,7 @@
 #include "app/ColourScheme.h"
 #include "app/ProgramStyle.h"
 #include "app/ReducedMotion.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "ui/common/Theme.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "app/instance/OneInstance.h"
 
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "support/MainLoop.h"
 
 #include <gtest/gtest.h>

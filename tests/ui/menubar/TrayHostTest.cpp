@@ -1,6 +1,6 @@
 #include "ui/menubar/TrayHost.h"
 
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "support/MainLoop.h"
 
 #include <QDBusConnection>

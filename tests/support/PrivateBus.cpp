@@ -1,4 +1,4 @@
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 
 #include <QFile>
 
