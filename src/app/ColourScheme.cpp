@@ -14,6 +14,8 @@ namespace {
 // Of the portal's "color-scheme"; any other number is no wish, or one for light windows.
 constexpr uint preferDark = 1;
 
+} // namespace
+
 QPalette darkPalette()
 {
     const QColor button(53, 56, 60), window(40, 42, 46), disabled(128, 131, 136);
@@ -30,8 +32,6 @@ QPalette darkPalette()
     }
     return palette;
 }
-
-} // namespace
 
 ColourScheme::ColourScheme(const PortalSettings& settings)
 {

@@ -3,8 +3,12 @@
 #include "app/PortalSettings.h"
 
 #include <QObject>
+#include <QPalette>
 
 namespace aerolith {
+
+/// The colours of dark windows.
+[[nodiscard]] QPalette darkPalette();
 
 /// Makes every window dark while the desktop asks for that and the toolkit, which knows few desktops' wishes,
 /// has not done so itself. Main thread.

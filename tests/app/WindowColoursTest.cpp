@@ -1,3 +1,4 @@
+#include "app/ColourScheme.h"
 #include "ui/Colours.h"
 #include "ui/main/WindowDriver.h"
 
@@ -13,21 +14,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPalette darkPalette()
-{
-    QPalette palette(QColor(49, 54, 59), QColor(42, 46, 50));
-    palette.setColor(QPalette::Base, QColor(27, 30, 32));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return palette;
-}
-
 /// In the desktop's own colours at first, which come back with the end of the test.
-class ColourSchemeTest : public WindowDriver
+class WindowColoursTest : public WindowDriver
 {
 protected:
-    ColourSchemeTest() { scan({network(u"a"_s, u"Alpha"_s, -70), network(u"b"_s, u"beta"_s, -40)}); }
+    WindowColoursTest() { scan({network(u"a"_s, u"Alpha"_s, -70), network(u"b"_s, u"beta"_s, -40)}); }
 
-    ~ColourSchemeTest() override { become(m_own); }
+    ~WindowColoursTest() override { become(m_own); }
 
     void become(const QPalette& palette)
     {
@@ -60,7 +53,7 @@ protected:
 
 /// Nothing keeps a colour: a window that has become dark is one that has been so from the start, and back
 /// again.
-TEST_F(ColourSchemeTest, SwitchesWhileTheWindowIsOpen)
+TEST_F(WindowColoursTest, SwitchesWhileTheWindowIsOpen)
 {
     click(u"a"_s);
     // The signal line draws itself in the beginning.
@@ -84,7 +77,7 @@ TEST_F(ColourSchemeTest, SwitchesWhileTheWindowIsOpen)
 
 /// Where the user's palette allows it. Not measured: the row that is selected, whose colours are the
 /// palette's, and the values along the chart's edge, which are in a fixed gray.
-TEST_F(ColourSchemeTest, EveryTextIsReadableInLightAndDark)
+TEST_F(WindowColoursTest, EveryTextIsReadableInLightAndDark)
 {
     click(u"b"_s);
     for (const QPalette& palette : {m_own, darkPalette()}) {
