@@ -12,8 +12,6 @@ class Spinner : public QWidget
 public:
     explicit Spinner(QWidget* parent = nullptr);
 
-    [[nodiscard]] bool isTurning() const { return m_clock.isRunning(); }
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
