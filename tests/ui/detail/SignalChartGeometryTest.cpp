@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace aerolith {
 
 namespace {
@@ -32,6 +34,9 @@ QList<QPointF> corners(const QPainterPath& path)
 
 TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
 {
+    constexpr qint64 least = std::numeric_limits<qint32>::min();
+    constexpr qint64 most = std::numeric_limits<qint32>::max();
+
     struct
     {
         SignalHistoryList history;
@@ -44,6 +49,10 @@ TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
         // A cycle that did not hear the access point.
         {history({-50, -100, -50}), {-105, -45}, {-45, -55, -65, -75, -85, -95, -105}},
         {history({-60, -58}, -200), {-65, -53}, {-53, -55, -57, -59, -61, -63, -65}},
+        // The limits of what a radio may report.
+        {history({least, most}),
+         {least - 5, most + 5},
+         {2147483652, 1431655768, 715827884, 0, -715827884, -1431655768, -2147483652}},
     };
 
     for (const auto& [samples, range, grid] : cases) {
