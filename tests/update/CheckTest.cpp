@@ -45,13 +45,9 @@ protected:
 
 TEST_F(CheckTest, FindsWhatIsNewer)
 {
-    announce("1.1", "new program", "<![CDATA[<p>Faster.</p><p>Smaller.</p>]]>");
+    announce("1.1", "new program");
     check();
-    ASSERT_TRUE(isIn<UpdateAvailable>());
-    const AppcastItem& item = std::get<UpdateAvailable>(updater->state()).item;
-    EXPECT_EQ(item.versionText, u"1.1"_s);
-    EXPECT_EQ(item.notes, u"Faster.\n\nSmaller."_s);
-
+    EXPECT_TRUE(isIn<UpdateAvailable>());
     announce("1.0", "the same program");
     check();
     EXPECT_TRUE(isIn<UpdateUpToDate>());
@@ -88,8 +84,6 @@ TEST_F(CheckTest, RefusesFeedsThatAreNone)
 {
     EXPECT_EQ(refusal(), u"localhost answered with the HTTP status 404"_s);
     EXPECT_EQ(refusal("HTTP/1.1 304 Not Modified\r\n\r\n"), u"localhost answered with the HTTP status 304"_s);
-    EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\nContent-Length: 7\r\n\r\n<html/>"),
-              u"The update feed cannot be read: line 1: this is no RSS 2.0 feed"_s);
     // No length is announced, and the connection would stay open.
     EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(maximumFeedSize + 1, ' '), Behind::silence),
               u"The update feed cannot be read: the feed is larger than 1048576 bytes"_s);
@@ -145,9 +139,6 @@ TEST_F(CheckTest, TellsWhenOneMayBeStarted)
 
     observation.reset();
     told.clear();
-    check();
-    EXPECT_TRUE(told.isEmpty());
-
     feed.reset();
     makeUpdater();
     observation = updater->observeCanCheckForUpdates([&](bool can) { told.append(can); });
