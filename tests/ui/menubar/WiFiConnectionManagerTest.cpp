@@ -83,7 +83,8 @@ TEST_F(WiFiConnectionManagerTest, JoinsWithThePasswordAsItWasTyped)
         user.answer([&](const QDialog& dialog) {
             EXPECT_EQ(dialog.focusWidget(), &field(dialog));
             field(dialog).insert(typed);
-            EXPECT_NE(field(dialog).displayText(), typed.isEmpty() ? u"-"_s : typed) << "masked";
+            const QString displayed = field(dialog).displayText();
+            EXPECT_EQ(displayed, displayed.left(1).repeated(typed.size())) << "masked";
             QTest::keyClick(&field(dialog), Qt::Key_Return);
         });
         manager.connectTo(cafe);
