@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QRectF wide{0, 40, 300, 33};
-
 NetworkRowInMenu row(const QString& ssid = u"Cafe"_s)
 {
     NetworkRowInMenu row;
@@ -57,34 +55,6 @@ bool differ(const QImage& a, const QImage& b, const QRectF& where)
 
 } // namespace
 
-TEST(MenuRow, StandsItsElementsSideBySide)
-{
-    const MenuRowMetrics metrics{.nameHeight = 16, .connectWidth = 48, .connectHeight = 14};
-    EXPECT_EQ(menuRowHeight(metrics, false), 33);
-    EXPECT_EQ(menuRowHeight(metrics, true), 62);
-
-    const MenuRowLayout other = layOutMenuRow(wide, metrics, false);
-    EXPECT_EQ(other.row, QRectF(0, 40, 300, 32));
-    EXPECT_EQ(other.bars, QRectF(12, 48.5, 18, 15));
-    EXPECT_EQ(other.symbol, QRectF(276, 50, 12, 12));
-    EXPECT_EQ(other.connect, QRectF(224, 49, 48, 14));
-    EXPECT_EQ(other.name, QRectF(38, 48, 170, 16));
-    EXPECT_EQ(other.divider, QRectF(0, 72, 300, 1));
-    EXPECT_EQ(other.button(), QRectF(212, 40, 88, 32));
-    EXPECT_FALSE(other.chart);
-
-    const MenuRowLayout joined = layOutMenuRow({0, 40, 300, 62}, metrics, true);
-    EXPECT_EQ(joined.name, QRectF(38, 48, 222, 16));
-    EXPECT_EQ(joined.chart, QRectF(38, 70, 222, 20)) << "4 above and below it";
-    EXPECT_FALSE(joined.connect || joined.divider || !joined.button().isEmpty());
-
-    const MenuRowLayout mirrored = other.mirrored();
-    EXPECT_EQ(mirrored.bars, QRectF(270, 48.5, 18, 15));
-    EXPECT_EQ(mirrored.button(), QRectF(0, 40, 88, 32));
-
-    EXPECT_EQ(layOutMenuRow({0, 40, 100, 33}, metrics, false).name.width(), 0) << "too narrow for a name";
-}
-
 TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
 {
     const NetworkRowInMenu plain = row();
@@ -94,7 +64,14 @@ TEST(MenuRow, OffersToConnectUnderThePointerOrTheKeys)
     focused.isFocused = true;
     NetworkRowInMenu open = plain;
     open.network.security = u"None"_s;
-    const MenuRowLayout places = plain.layout(picture(plain).rect(), QApplication::font(), Qt::LeftToRight);
+    const QRect rect = picture(plain).rect();
+    const MenuRowLayout places = plain.layout(rect, QApplication::font(), Qt::LeftToRight);
+    const MenuRowLayout mirrored = plain.layout(rect, QApplication::font(), Qt::RightToLeft);
+    EXPECT_EQ(places.button().right(), rect.width());
+    EXPECT_EQ(mirrored.button().left(), 0);
+    EXPECT_LT(mirrored.symbol.right(), mirrored.connect->left());
+    const QRectF narrow(0, 0, 100, rect.height());
+    EXPECT_EQ(plain.layout(narrow, QApplication::font(), Qt::LeftToRight).name.width(), 0);
 
     for (const QColor background : {QColor(Qt::white), QColor(30, 30, 30)}) {
         const QImage still = picture(plain, background);
