@@ -1,9 +1,7 @@
 // The built program from outside.
 
-#include "app/CommandLine.h"
 #include "support/Printing.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -67,38 +65,15 @@ protected:
 
 } // namespace
 
-TEST(CommandLine, RefusesWhatItDoesNotKnow)
-{
-    for (const QStringList& arguments :
-         {QStringList{u"town.json"_s}, QStringList{u"--simulate"_s, u"a"_s, u"b"_s},
-          QStringList{u"--style"_s}, QStringList{u"--help"_s, u"-x"_s}, QStringList{QString()}}) {
-        SCOPED_TRACE(arguments.join(u' ').toStdString());
-        const auto parsed = parseCommandLine(arguments);
-        ASSERT_FALSE(parsed.ok());
-        EXPECT_TRUE(parsed.error().description.contains(arguments.last()));
-    }
-}
-
 TEST_F(ProgramTest, RefusesWrongArgumentsInOneLine)
 {
     EXPECT_EQ(run({u"--bogus\n\u001B[2J"_s}), 2);
     EXPECT_EQ(errorLine(), u"aerolith: unknown argument --bogus\\u{a}\\u{1b}[2J"_s);
     EXPECT_EQ(program.readAllStandardOutput(), QByteArray());
-}
-
-TEST_F(ProgramTest, RefusesAScenarioThatItCannotRead)
-{
+    EXPECT_EQ(run({u"--help"_s, u"--simulate="_s}), 2);
+    EXPECT_EQ(errorLine(), u"aerolith: --simulate: the file name is empty"_s);
     EXPECT_EQ(run({u"--simulate"_s, folder.filePath(u"missing.json"_s)}), 2);
     EXPECT_TRUE(errorLine().contains(folder.filePath(u"missing.json"_s)));
-
-    QFile file(folder.filePath(u"scenario.json"_s));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.write(R"({"cycles": [{"networks": [{"rssi": "loud"}]}]})");
-    file.close();
-    EXPECT_EQ(run({u"--simulate"_s, file.fileName()}), 2);
-    const QString line = errorLine();
-    EXPECT_TRUE(line.contains(file.fileName())) << line.toStdString();
-    EXPECT_TRUE(line.contains(u"cycles[0].networks[0].rssi"_s)) << line.toStdString();
 }
 
 TEST_F(ProgramTest, NeedsADisplayForItsWindowAlone)
