@@ -1,12 +1,13 @@
 #include "app/MainMenu.h"
 
 #include "app/SupportMail.h"
-#include "support/FakeDesktop.h"
-#include "support/Printing.h"
-#include "support/RecordingLog.h"
+#include "platform/Updater.h"
+#include "ui/main/WindowDriver.h"
 
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,47 @@
 namespace aerolith {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Checks for nothing.
+class IdleUpdater : public Updater
+{
+public:
+    void start() override {}
+
+    [[nodiscard]] std::unique_ptr<Observation>
+    observeCanCheckForUpdates(std::function<void(bool)> observer) override
+    {
+        observer(true);
+        return std::make_unique<Observation>();
+    }
+
+    void checkForUpdates() override {}
+};
+
+class MainMenuTest : public IdleUpdater, public WindowDriver
+{
+};
+
+} // namespace
+
+TEST_F(MainMenuTest, OffersNothingElse)
+{
+    addMainMenu(window, {.updater = *this, .workspace = desktop.workspace, .log = engine.log});
+    QStringList menus;
+    for (const QAction* menu : window.menuBar()->actions()) {
+        QStringList entries{menu->text()};
+        for (const QAction* entry : menu->menu()->actions()) {
+            entries.append(entry->isSeparator() ? u"-"_s : entry->text());
+        }
+        menus.append(entries.join(u'|').remove(u'&'));
+    }
+    EXPECT_EQ(menus, QStringList({u"Aerolith|About Aerolith|-|Check for Updates\u2026|-|Quit"_s,
+                                  u"View|Toggle Sidebar"_s, u"Help|Contact Support"_s}));
+    window.menuBar()->actions().last()->menu()->actions().first()->trigger();
+    EXPECT_EQ(desktop.workspace.urls.size(), 1);
+}
 
 TEST(SupportMail, EncodesAsAQueryDoes)
 {
