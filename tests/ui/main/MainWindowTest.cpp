@@ -59,13 +59,13 @@ TEST_F(MainWindowTest, OpensARowsMenuWithoutSelectingIt)
 {
     click(u"a"_s);
     click(u"c"_s, {}, Qt::RightButton);
-    const QPoint position = middleOf(rowOf(u"c"_s));
+    const QPoint position = middleOf(rowOf(u"b"_s));
     QContextMenuEvent event(QContextMenuEvent::Mouse, position, list.viewport()->mapToGlobal(position));
     QCoreApplication::sendEvent(list.viewport(), &event);
     ASSERT_NE(menu(), nullptr);
     menu()->actions().first()->trigger();
     menu()->close();
-    EXPECT_TRUE(engine.scanner->isHidden(u"c"_s));
+    EXPECT_TRUE(engine.scanner->isHidden(u"b"_s));
 
     list.selectionModel()->setCurrentIndex(list.model()->index(rowOf(u"b"_s), 0),
                                            QItemSelectionModel::NoUpdate);
