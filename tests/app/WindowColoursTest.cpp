@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPalette>
+#include <QVariantAnimation>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +26,15 @@ protected:
     void become(const QPalette& palette)
     {
         QApplication::setPalette(palette);
+        settle();
+    }
+
+    /// The signal line draws itself in the beginning.
+    void finishDrawing(const MainWindow& shown)
+    {
+        auto* drawing = shown.findChild<QVariantAnimation*>(u"drawing"_s);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return drawing->state() == QVariantAnimation::Running; }));
+        drawing->setCurrentTime(drawing->duration());
         settle();
     }
 
@@ -56,8 +66,7 @@ protected:
 TEST_F(WindowColoursTest, SwitchesWhileTheWindowIsOpen)
 {
     click(u"a"_s);
-    // The signal line draws itself in the beginning.
-    QTest::qWait(1600);
+    finishDrawing(window);
     const QImage light = window.grab().toImage();
     become(darkPalette());
     const QImage dark = window.grab().toImage();
@@ -66,7 +75,7 @@ TEST_F(WindowColoursTest, SwitchesWhileTheWindowIsOpen)
     fresh.resize(window.size());
     fresh.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&fresh));
-    QTest::qWait(1600);
+    finishDrawing(fresh);
     EXPECT_EQ(dark, fresh.grab().toImage());
     fresh.hide();
     window.activateWindow();
