@@ -1,7 +1,7 @@
 #include "app/instance/OneInstance.h"
 
-#include "support/PrivateBus.h"
 #include "support/MainLoop.h"
+#include "support/PrivateBus.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "ui/menubar/TrayHost.h"
 
-#include "support/PrivateBus.h"
 #include "support/MainLoop.h"
+#include "support/PrivateBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
