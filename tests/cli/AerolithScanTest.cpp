@@ -120,6 +120,9 @@ TEST_F(AerolithScan, SortsLastAndHonoursTheStoredSettings)
     const Outcome sorted = run(u"--simulate air.json --cycles 2 --interval 0 --sort ssid --visible-only"_s);
     EXPECT_EQ(sorted.status, 0) << "with nonsense for settings";
     EXPECT_EQ(sorted.output.split('\n').size(), 3);
+    write(u"apart.json"_s, QByteArray(twoCycles).replace(
+                               R"({"ssid": "Quay", "bssid": "02:00:00:00:00:02"}, "n)", R"(null, "n)"));
+    EXPECT_EQ(run(u"--simulate apart.json --sort channel"_s).output, lines({header, quay, attic}));
     write(settings, "hiddenBSSIDs=\"@ByteArray([\\\"02:00:00:00:00:02\\\"])\"\nhistoryLimit=1\n");
     EXPECT_EQ(run(u"--simulate air.json --visible-only"_s).output, lines({header, attic}));
     const Outcome details =

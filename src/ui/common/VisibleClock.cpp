@@ -1,8 +1,8 @@
 #include "ui/common/VisibleClock.h"
 
+#include "ui/common/Animations.h"
+
 #include <QEvent>
-#include <QStyle>
-#include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
@@ -76,8 +76,7 @@ void VisibleClock::widgetShown(bool anew)
 
 void VisibleClock::update()
 {
-    const bool runs = canBeSeen() && m_widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration,
-                                                                 nullptr, &m_widget) > 0;
+    const bool runs = canBeSeen() && hasAnimations(m_widget);
     if (runs == isRunning()) {
         return;
     }

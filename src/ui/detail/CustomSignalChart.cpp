@@ -1,6 +1,7 @@
 #include "ui/detail/CustomSignalChart.h"
 
 #include "ui/common/AccessibleRole.h"
+#include "ui/common/Animations.h"
 #include "ui/common/EaseInOut.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/Theme.h"
@@ -8,7 +9,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -102,7 +102,7 @@ void CustomSignalChart::beginDrawing()
 {
     if (m_parameters.animate && !m_animateChart && isVisible()) {
         m_animateChart = true;
-        if (wantsAnimations()) {
+        if (hasAnimations(*this)) {
             m_drawing.start();
         }
     }
@@ -116,11 +116,6 @@ void CustomSignalChart::finishUnlessSeen()
         m_drawing.stop();
     }
     update();
-}
-
-bool CustomSignalChart::wantsAnimations() const
-{
-    return style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
 }
 
 void CustomSignalChart::hideEvent(QHideEvent* event)
@@ -190,7 +185,7 @@ void CustomSignalChart::hover(const std::optional<QUuid>& id)
     }
     m_hover.hover(id);
     // A chart that is hidden loses the focus, and with it what was hovered, only afterwards.
-    if (!wantsAnimations() || !isVisible()) {
+    if (!hasAnimations(*this) || !isVisible()) {
         m_hover.settle();
     }
     nameForAssistance();

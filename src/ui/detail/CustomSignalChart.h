@@ -67,8 +67,6 @@ private:
     [[nodiscard]] double drawnFraction() const;
     void beginDrawing();
     void finishUnlessSeen();
-    /// The user's style has animations.
-    [[nodiscard]] bool wantsAnimations() const;
 
     void paintFocus(QPainter& painter) const;
 

@@ -1,7 +1,7 @@
 #include "platform/linux/FakeKernel.h"
 #include "platform/linux/LinuxWiFiClient.h"
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "support/MainLoop.h"
 #include "support/RecordingLog.h"
 

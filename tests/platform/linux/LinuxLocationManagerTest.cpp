@@ -1,7 +1,7 @@
 #include "platform/linux/LinuxLocationManager.h"
 
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "support/FakeWiFi.h"
 #include "support/MainLoop.h"
 #include "support/ManualMainQueue.h"

@@ -2,7 +2,7 @@
 #include "platform/linux/LinuxWiFiClient.h"
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
+#include "support/PrivateBus.h"
 #include "platform/linux/nl80211/BootTime.h"
 #include "support/Files.h"
 #include "support/MainLoop.h"

@@ -1,9 +1,9 @@
 #include "platform/linux/networkmanager/Activation.h"
 
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
 #include "support/MainLoop.h"
 #include "support/Printing.h"
+#include "support/PrivateBus.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
@@ -22,6 +22,7 @@ using namespace std::chrono_literals;
 using enum ActivationOutcome;
 
 constexpr auto userCanceled = "org.freedesktop.NetworkManager.SecretAgent.UserCanceled"_L1;
+constexpr auto storesNone = "org.freedesktop.NetworkManager.SecretAgent.Failed"_L1;
 constexpr auto noSecrets = "org.freedesktop.NetworkManager.SecretAgent.NoSecrets"_L1;
 
 class ActivationTest : public testing::Test
@@ -152,11 +153,12 @@ TEST_F(ActivationTest, tellsRefusedFromVanished)
 
 TEST_F(ActivationTest, keepsOtherAgentsFromAskingForAnotherPassword)
 {
-    const auto answerTo = [this](const QString& profile, uint flags) {
+    const auto answerTo = [this](const QString& profile, uint flags,
+                                 const QString& member = u"GetSecrets"_s) {
         QString answer;
         Activation activation(m_manager, FakeNetworkManager::devicePath);
         m_fake->on(u"ActivateConnection"_s, [&](const QDBusMessage& call) {
-            m_fake->askAgent(call, profile, flags, [&](const QString& error) {
+            m_fake->askAgent(call, member, profile, flags, [&](const QString& error) {
                 answer = error;
                 m_fake->tellActiveState(4);
             });
@@ -168,7 +170,8 @@ TEST_F(ActivationTest, keepsOtherAgentsFromAskingForAnotherPassword)
     EXPECT_EQ(answerTo(u"/ours"_s, 7), userCanceled);
     EXPECT_EQ(answerTo(u"/ours"_s, 5), noSecrets) << "the desktop may have the stored one";
     EXPECT_EQ(answerTo(u"/theirs"_s, 7), noSecrets);
-    EXPECT_EQ(m_fake->calls(u"Register"_s).size(), 3);
+    EXPECT_EQ(answerTo(u"/theirs"_s, 0, u"SaveSecrets"_s), storesNone) << "another agent stores it";
+    EXPECT_EQ(m_fake->calls(u"Register"_s).size(), 4);
 }
 
 } // namespace

@@ -133,12 +133,12 @@ void FakeNetworkManager::followActivation()
     }
 }
 
-void FakeNetworkManager::askAgent(const QDBusMessage& call, const QString& profilePath, uint flags,
-                                  const std::function<void(const QString& error)>& answered)
+void FakeNetworkManager::askAgent(const QDBusMessage& call, const QString& member, const QString& profilePath,
+                                  uint flags, const std::function<void(const QString& error)>& answered)
 {
     auto question =
         QDBusMessage::createMethodCall(call.service(), u"/org/freedesktop/NetworkManager/SecretAgent"_s,
-                                       u"org.freedesktop.NetworkManager.SecretAgent"_s, u"GetSecrets"_s);
+                                       u"org.freedesktop.NetworkManager.SecretAgent"_s, member);
     question.setArguments({QVariant::fromValue(ConnectionSettings()),
                            QVariant::fromValue(QDBusObjectPath(profilePath)), u"802-11-wireless-security"_s,
                            QStringList(), flags});

@@ -48,9 +48,9 @@ public:
     void tellDeviceState(DeviceStateReason state);
     void tellActiveState(quint32 state);
 
-    /// Asks the secret agent of whoever sent `call` for the profile's secrets, on the next turn of the
+    /// Asks the secret agent of whoever sent `call` about the profile, by this call, on the next turn of the
     /// service's own loop; hands on the name of the error that it answers with.
-    void askAgent(const QDBusMessage& call, const QString& profilePath, uint flags,
+    void askAgent(const QDBusMessage& call, const QString& member, const QString& profilePath, uint flags,
                   const std::function<void(const QString& error)>& answered);
 
     /// By the last part of the interface's name and the property's, such as "Wireless.LastScan".

@@ -2,8 +2,8 @@
 
 #include "platform/linux/networkmanager/DBusTypes.h"
 #include "platform/linux/networkmanager/FakeNetworkManager.h"
-#include "platform/linux/networkmanager/PrivateBus.h"
 #include "support/MainLoop.h"
+#include "support/PrivateBus.h"
 
 #include <QDBusObjectPath>
 
