@@ -5,7 +5,9 @@
 #include "ui/common/Theme.h"
 #include "ui/main/BackdropMessage.h"
 #include "ui/main/BackdropMotion.h"
+#include "ui/main/CircleLine.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -51,42 +53,6 @@ QRegion ringsRegion(const QPointF& centre)
     return squareRing(centre, radius(innermost, -1), radius(ring(ringCount - 1, start), 1) + 1);
 }
 
-/// How far a circle reaches to either side at this distance from its centre; nowhere beyond its radius.
-double halfChord(double radius, double distance)
-{
-    return std::sqrt(std::max(0.0, radius * radius - distance * distance));
-}
-
-/// A circular line, as a gradient with edges one pixel soft: it takes Qt three times as long to stroke a
-/// circle of this size.
-void paintCircle(QPainter& painter, const QPointF& centre, double radius, double lineWidth,
-                 const QColor& color)
-{
-    constexpr double softness = 0.5;
-    const double inner = radius - lineWidth / 2;
-    const double outer = radius + lineWidth / 2;
-    const double reach = outer + softness;
-    const QColor clear = Theme::withOpacity(color, 0);
-    QRadialGradient line(centre, reach);
-    line.setColorAt((inner - softness) / reach, clear);
-    line.setColorAt((inner + softness) / reach, color);
-    line.setColorAt((outer - softness) / reach, color);
-    line.setColorAt(1, clear);
-    const QBrush brush(line);
-    // Only where the line is: with each pixel more, a gradient takes longer. Without
-    // antialiasing the bands meet in no seam; the line's edges are soft by the gradient.
-    constexpr double bandHeight = 8;
-    for (double top = -reach; top < reach; top += bandHeight) {
-        const double bottom = std::min(top + bandHeight, reach);
-        const double nearest = top < 0 && bottom > 0 ? 0 : std::min(std::abs(top), std::abs(bottom));
-        const double farthest = std::max(std::abs(top), std::abs(bottom));
-        const double left = -halfChord(reach, nearest);
-        const double hole = halfChord(inner - softness, farthest);
-        painter.fillRect(QRectF(QPointF(left, top), QPointF(-hole, bottom)).translated(centre), brush);
-        painter.fillRect(QRectF(QPointF(hole, top), QPointF(-left, bottom)).translated(centre), brush);
-    }
-}
-
 } // namespace
 
 WavingBackground::WavingBackground(WiFiScanner& scanner)
@@ -100,6 +66,7 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
     m_message->setObjectName(u"backdropMessage"_s);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setFont(Theme::font(m_message->font(), messageSize, QFont::Medium));
+    m_message->installEventFilter(this);
 
     auto* stack = new QVBoxLayout(this);
     stack->setSpacing(0);
@@ -111,6 +78,15 @@ WavingBackground::WavingBackground(WiFiScanner& scanner)
     connect(&m_scanner, &WiFiScanner::locationAccessDeniedChanged, &m_publish, &OncePerTurn::request);
     connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
     showState();
+}
+
+/// The symbol stands over the message, and goes with it.
+bool WavingBackground::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_message && event->type() == QEvent::Move) {
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void WavingBackground::paintEvent(QPaintEvent* /*event*/)

@@ -23,6 +23,8 @@ public:
     /// Whether it moves at the moment: only while it can be seen.
     [[nodiscard]] bool isAnimating() const { return m_clock.isRunning(); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

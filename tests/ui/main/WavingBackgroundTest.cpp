@@ -2,12 +2,17 @@
 
 #include "ui/ViewDriver.h"
 #include "ui/main/BackdropMotion.h"
+#include "ui/main/CircleLine.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineF>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace aerolith {
 
@@ -110,6 +115,16 @@ TEST_F(WavingBackgroundTest, SaysWhatToDoOrWhatIsGoingOn)
     EXPECT_TRUE(paintedInFrames().contains(inRings));
 }
 
+TEST_F(WavingBackgroundTest, PaintsTheSymbolAnewWhereItsMessageMoves)
+{
+    const QRect symbol(backdrop.rect().center().x() - 18, message->y() - 60, 36, 36);
+    QCoreApplication::processEvents();
+    recorder.painted = {};
+    message->move(message->pos() + QPoint(0, 50));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(QRegion(symbol).subtracted(recorder.painted).isEmpty());
+}
+
 TEST_F(WavingBackgroundTest, MovesOnlyWhileItCanBeSeen)
 {
     EXPECT_TRUE(backdrop.isAnimating());
@@ -142,6 +157,33 @@ TEST_F(WavingBackgroundTest, StaysStillWhereTheDesktopWantsNoAnimations)
     EXPECT_FALSE(backdrop.isAnimating());
     backdrop.setStyle(QApplication::style());
     EXPECT_TRUE(backdrop.isAnimating());
+}
+
+TEST(CircleLine, HasNoGapsAndNothingTwice)
+{
+    constexpr double lineWidth = 6;
+    // As in a window, whose painter is moved to the widget.
+    const QPointF centre(229.5, 180);
+    const QPoint place(341, 78);
+    const QColor color(0, 0, 255, 100);
+    for (double radius = 136; radius < 160; radius += 0.37) {
+        QImage window(459 + place.x(), 360 + place.y(), QImage::Format_ARGB32_Premultiplied);
+        window.fill(Qt::transparent);
+        QPainter painter(&window);
+        painter.translate(place);
+        paintCircle(painter, centre, radius, lineWidth, color);
+        painter.end();
+        const QImage picture = window.copy(QRect(place, QSize(459, 360)));
+        int wrong = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const double distance = QLineF(centre, QPointF(x + 0.5, y + 0.5)).length();
+                const bool isInLine = std::abs(distance - radius) < lineWidth / 2 - 1;
+                wrong += isInLine && std::abs(picture.pixelColor(x, y).alpha() - color.alpha()) > 2 ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << "radius " << radius;
+    }
 }
 
 TEST(BackdropMotion, ComesAndGoesOneRingAfterTheOther)
