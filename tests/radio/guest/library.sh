@@ -240,6 +240,12 @@ station_is_managed() { wait_for 90 station_state_is_at_least 30 || give_up "Netw
 # network_manager_lives: gives up where it does not; nothing that we ask of it may end it.
 network_manager_lives() { kill -0 "$NETWORK_MANAGER" 2>/dev/null || give_up "NetworkManager has died"; }
 
+VOLATILE_PROFILES=/run/NetworkManager/system-connections
+# stored_profiles: the text of each, those that go with their connection among them.
+stored_profiles() {
+    find $VOLATILE_PROFILES /etc/NetworkManager/system-connections -name '*.nmconnection' -exec cat {} +
+}
+
 permission_is() { as_user nmcli -t general permissions | grep -q "$1:$2"; }
 
 # permit yes|no|auth [yes|no]: what polkit answers when tester asks NetworkManager for a scan, and for anything else (the

@@ -41,7 +41,7 @@ class Radio:
     becomes: "Radio | None" = None  # what it is changed into while the scenario runs
 
 
-def bssid(radio_number: int, place: int) -> str:
+def bssid_of(radio_number: int, place: int) -> str:
     """The address of a radio's access point; radios count from 1, access points from 0."""
     return f"02:00:00:00:{radio_number:02x}:{place:02x}"
 
@@ -55,31 +55,32 @@ class Plan:
         """Yields (bssid, radio, access point)."""
         for number, radio in enumerate(self.radios, 1):
             for place, access_point in enumerate(radio.access_points):
-                yield radio.address or bssid(number, place), radio, access_point
+                yield radio.address or bssid_of(number, place), radio, access_point
 
-    def radio_of_role(self, role: str) -> tuple[int, Radio]:
-        return next((number, radio) for number, radio in enumerate(self.radios, 1) if radio.role == role)
+    def bssid_of(self, role: str) -> str:
+        """Of the first access point of the radio of that role."""
+        return next(bssid_of(number, 0) for number, radio in enumerate(self.radios, 1) if radio.role == role)
 
     def changed(self) -> "Plan":
         return replace(self, radios=tuple(radio.becomes or radio for radio in self.radios))
 
-    def write(self, folder: Path) -> None:
+    def write(self, folder: Path, *besides: str) -> None:
         """One hostapd configuration a radio (wlan1.conf, ...), or the arguments that make its ad hoc network
         (wlan1.cell); what changes it to the other state and back (wlan1.changed, wlan1.made); and plan.sh: what the
-        guest's scripts need to know."""
+        guest's scripts need to know, with the lines that are given besides."""
         for number, radio in enumerate(self.radios, 1):
             if radio.cell is not None:
                 (folder / f"wlan{number}.cell").write_text(
-                    f"{radio.access_points[0].ssid.decode()} {radio.cell} fixed-freq {bssid(number, 0)} "
+                    f"{radio.access_points[0].ssid.decode()} {radio.cell} fixed-freq {bssid_of(number, 0)} "
                     f"beacon-interval {radio.beacon_interval} {radio.settings}\n")
                 continue
             (folder / f"wlan{number}.conf").write_text(configuration(number, radio))
             if radio.becomes:
                 (folder / f"wlan{number}.changed").write_text("\n".join(state(radio.becomes)) + "\n")
                 (folder / f"wlan{number}.made").write_text("\n".join(state(radio)) + "\n")
-        (folder / "plan.sh").write_text(self._for_guest())
+        (folder / "plan.sh").write_text("\n".join([*self._for_guest(), *besides]) + "\n")
 
-    def _for_guest(self) -> str:
+    def _for_guest(self) -> list[str]:
         rssi = " ".join(f"[{number}]={radio.rx_rssi}" for number, radio in enumerate(self.radios, 1))
         addresses = " ".join(f"[{number}]={radio.address}" for number, radio in enumerate(self.radios, 1)
                              if radio.address)
@@ -90,7 +91,7 @@ class Plan:
             if radio.role:
                 lines += [f"{radio.role.upper()}_INTERFACE=wlan{number}",
                           f"{radio.role.upper()}_SSID={for_shell(radio.access_points[0].ssid)}"]
-        return "\n".join(lines) + "\n"
+        return lines
 
 
 def for_shell(name: bytes) -> str:
@@ -114,7 +115,7 @@ def configuration(number: int, radio: Radio) -> str:
         if access_point.carried:
             continue
         if place > 0:
-            lines += [f"bss=wlan{number}b{place}", f"bssid={bssid(number, place)}", *split(access_point.settings)]
+            lines += [f"bss=wlan{number}b{place}", f"bssid={bssid_of(number, place)}", *split(access_point.settings)]
         lines.append(f"ssid2={access_point.ssid.hex()}")
         besides = access_point.elements + (elements.multiple_bssid(carried) if carried and place == 0 else b"")
         if besides:

@@ -6,6 +6,7 @@ from collections.abc import Callable
 from dataclasses import dataclass, field
 
 from heard import Heard
+from steps import Faults
 
 NOISE = -90  # dBm; the program's constant
 ABSENT = "(absent)"
@@ -139,11 +140,12 @@ def print_differences(differences: list[Difference]) -> None:
         print(difference)
 
 
-def print_opinions(opinions: list[Opinion]) -> None:
-    """One line a reading and decoder, then why they differ where both may be right."""
+def print_opinions(opinions: list[Opinion], faults: Faults) -> None:
+    """One line a reading and decoder, then why they differ where both may be right; where they may not is a fault."""
     print("reading | decoder | compared | equal | explained | unexplained")
     for opinion in opinions:
         print("\n".join(opinion.rows()))
     for opinion in opinions:
         for reason, times in opinion.reasons.items():
             print(f"explained, {opinion.decoder}, {times} times: {reason}")
+    faults.count += sum(sum(opinion.unexplained.values()) for opinion in opinions)

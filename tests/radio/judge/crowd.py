@@ -1,15 +1,13 @@
-"""Makes a crowd of access points for scenarios/crowd.sh, and judges what it has left: run with the results folder; exit
-status 1 when there is a fault."""
+"""Makes a crowd of access points for scenarios/crowd.sh, and judges what it has left."""
 
 import random
-import sys
 from pathlib import Path
 
 import iw_dump
 from compare import Opinion, compare_lists, print_differences, print_opinions
 from elements import country, eht, element, he, rsn, vht, wpa
 from scans import TOLERANCE, Scans
-from steps import Faults, Step, unix_time
+from steps import Faults, Step, judge, unix_time
 
 COUNT, SEED = 1000, 1
 LEAST_HEARD = 0.9  # of the crowd: an emulated machine that is short of time misses some
@@ -52,12 +50,11 @@ def make(file: Path, count: int) -> None:
     file.write_text("".join(made_up(number, chance) + "\n" for number in range(count)))
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     scans = Scans(results)
     step = Step(results, "crowd")
     opinion = Opinion("iw")
-    if faults.expect(step.status == 0, f"exit status {step.status}: {step.message}"):
+    if faults.ended_well(step):
         records = step.document("list.json")["networks"]
         # The machine may be so short of time that scans come and go before the program has begun its first.
         first = scans.last_ended_before(min(map(unix_time, records), default=step.ended))
@@ -66,10 +63,8 @@ def main(results: Path) -> int:
         print_differences(compare_lists(opinion, records, entries, since))
         print(f"{len(records)} of {COUNT} access points in {step.ended - step.begun:.0f} s")
         faults.expect(len(records) >= LEAST_HEARD * COUNT, "too few of them have been heard")
-        print_opinions([opinion])
-    faults.count += sum(opinion.unexplained.values())
-    return faults.verdict()
+        print_opinions([opinion], faults)
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

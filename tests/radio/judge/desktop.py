@@ -1,9 +1,8 @@
-"""Judges what scenarios/desktop.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/desktop.sh has left."""
 
-import sys
 from pathlib import Path
 
-from steps import Faults, Step
+from steps import Faults, Step, judge
 
 DELAY = 5.0  # seconds from the grant to the first scan
 SLACK = 10.0  # what an emulated machine may be late; without the word of the grant none would be asked for at all
@@ -23,16 +22,14 @@ def judge_grant(results: Path, faults: Faults) -> None:
         faults.expect(DELAY <= delay <= DELAY + SLACK, f"instead of {DELAY} s")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     step = Step(results, "desktop")
     print(step.text("stdout"), end="")
-    if faults.expect(step.status == 0, f"exit status {step.status}: {step.message}"):
+    if faults.ended_well(step):
         judge_grant(results, faults)
     told = step.text("log") + step.text("stdout") + step.text("stderr")
     faults.expect("horse" not in told, "the password was told")
-    return faults.verdict()
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

@@ -1,25 +1,14 @@
-"""Judges what scenarios/faults.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/faults.sh has left."""
 
-import csv
 import json
 import re
-import sys
 from itertools import pairwise
 from pathlib import Path
 
-from plans import FAULTS
+from plans import FAULTS, FAULT_WORDS
 from settings import PASSWORD
-from steps import Faults, Step, unix_time
+from steps import Faults, Step, judge, unix_time
 
-# What the log has to say while the fault lasts, or at its end.
-WORDS = {
-    "manager": r"Scan failed: .*NetworkManager is not running",
-    "supplicant": r"Scan failed: The Wi-Fi interface wlan0 is not available",
-    "radio": r"No WiFi interface found",
-    "bus": r"Scan failed: .*NetworkManager is not running",
-    "hang": r"Scan failed: NetworkManager does not answer",
-    "endless": r"Scan failed: The Wi-Fi scan did not end in time",
-}
 RESPONSIVE = 20.0  # seconds in which a window on an emulated machine answers; one that waits for a service takes 25
 DAY = 86400.0  # seconds
 STOPPED = "stall"  # the fault that stops the programs themselves
@@ -49,8 +38,8 @@ def read_faults(results: Path, logs: dict[str, list[str]]) -> list[Fault]:
 
 def judge_log(fault: Fault, program: str, faults: Faults) -> None:
     lines = fault.said(program, "begun", "mended")
-    if pattern := WORDS.get(fault.name):
-        faults.expect(any(re.match(pattern, line) for line in lines), f"{fault.name}: {program} does not tell: {lines}")
+    if pattern := FAULT_WORDS.get(fault.name):
+        faults.expect(any(re.search(pattern, line) for line in lines), f"{fault.name}: {program} does not tell: {lines}")
     if (fault.name, program) == ("bus", "window"):
         # Permission is taken away and given again, as soon as there is a bus.
         permission = [line.split()[2].strip(".") for line in lines if line.startswith("Location access ")]
@@ -91,8 +80,7 @@ def judge_cycles(lines: list[str], faults: Faults) -> None:
 
 
 def judge_join(step: Step, faults: Faults) -> None:
-    print(f"join: {step.status} after {step.ended - step.begun:.1f} s: {step.message}; "
-          f"then {step.text('device.txt')!r}")
+    print(f"{step}; then {step.text('device.txt')!r}")
     faults.expect(step.status == 1 and "NetworkManager" in step.message, f"join: {step.message!r} does not say why")
     faults.expect(not step.text("profiles.txt"), "join: a profile was left behind")
     faults.expect(PASSWORD not in step.text("stdout") + step.text("stderr"), "join: the password was told")
@@ -109,13 +97,11 @@ def judge_history(step: Step, faults: Faults) -> None:
                   f"clock: the history is {history}")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     watch, window = (Step(results, name) for name in ("watch", "window"))
     for step in (watch, window):
-        faults.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}")
-    with (window.folder / "pulse.csv").open() as file:
-        pulse = [{column: float(value) for column, value in row.items()} for row in csv.DictReader(file)]
+        faults.ended_well(step)
+    pulse = window.numbers("pulse.csv")
     logs = {"watch": watch.text("stderr").splitlines(), "window": window.text("log").splitlines()}
     for fault in read_faults(results, logs):
         for program in logs:
@@ -133,8 +119,7 @@ def main(results: Path) -> int:
         # Access points that are on the air have not all gone just because no scan took place.
         faults.expect("Found 0 networks" not in lines, f"{program} has taken a scan that failed for an empty air")
     judge_cycles(watch.text("stdout").splitlines(), faults)
-    return faults.verdict()
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

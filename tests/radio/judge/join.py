@@ -1,11 +1,10 @@
-"""Judges what scenarios/join.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/join.sh has left."""
 
 import re
-import sys
 from pathlib import Path
 
 from settings import PASSWORD
-from steps import Faults, Step
+from steps import Faults, Step, judge
 
 # Step: the network that the machine is joined to in the end, as iw prints its name.
 JOINED = {
@@ -60,11 +59,10 @@ def judge_changed_profile(step: Step, faults: Faults) -> None:
     faults.expect(f"psk={PASSWORD}" in profile and "dns=10.9.8.7" in profile, f"{step.name}: {profile}")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     for name in [*JOINED, *FAILED]:
         step = Step(results, name)
-        print(f"{name}: {step.status} after {step.ended - step.begun:.1f} s: {step.message}")
+        print(step)
         faults.expect("horse" not in step.text("stdout") + step.text("stderr"), f"{name}: the password was told")
         if name in JOINED:
             judge_joined(step, JOINED[name], faults)
@@ -74,8 +72,7 @@ def main(results: Path) -> int:
     for name, blocked in (("power-off", "1\n"), ("power-on", "0\n")):
         step = Step(results, name)
         faults.expect(step.status == 0 and step.text("blocked") == blocked, f"{name}: {step.message}")
-    return faults.verdict()
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

@@ -61,18 +61,28 @@ FAULTS = Plan((
     plain(36, ("Office", "Guests"), rx_rssi=-80),
 ))
 
+# Fault: an expression for the line that the log has to have while it lasts, or at its end.
+FAULT_WORDS = {
+    "manager": "^Scan failed: .*NetworkManager is not running",
+    "supplicant": "^Scan failed: The Wi-Fi interface wlan0 is not available",
+    "radio": "^No WiFi interface found",
+    "bus": "^Scan failed: .*NetworkManager is not running",
+    "hang": "^Scan failed: NetworkManager does not answer",
+    "endless": "^Scan failed: The Wi-Fi scan did not end in time",
+}
+
 PLANS = {"scan": SCAN, "join": JOIN, "window": WINDOW, "desktop": JOIN, "crowd": Plan((), country="GT"), "soak": SOAK,
          "faults": FAULTS, "peers": Plan((), country="GT")}
 CROWDS = {"crowd": (crowd.COUNT,), "faults": (crowd.COUNT,), "peers": (60, 500)}
 
 
 def main(scenario: str, folder: Path) -> None:
-    PLANS[scenario].write(folder)
     sizes = CROWDS.get(scenario, ())
     for size in sizes:
         crowd.make(folder / f"crowd-{size}", size)
-    with (folder / "plan.sh").open("a") as plan:
-        plan.write(f"PASSWORD='{PASSWORD}'\nCROWD='{' '.join(map(str, sizes))}'\n")
+    words = " ".join(f"[{fault}]='{words}'" for fault, words in FAULT_WORDS.items())
+    PLANS[scenario].write(folder, f"PASSWORD='{PASSWORD}'", f"CROWD='{' '.join(map(str, sizes))}'",
+                          f"declare -A FAULT_WORDS=({words})")
     (folder / "eap.users").write_text('* PEAP\n"alice" MSCHAPV2 "wonderland" [2]\n')
 
 

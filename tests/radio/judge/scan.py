@@ -1,19 +1,17 @@
-"""Judges what scenarios/scan.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/scan.sh has left."""
 
 import json
 import re
-import sys
 from pathlib import Path
 
 import air
 import iw_dump
-from access_points import Radio
-from access_points import bssid as bssid_of
-from compare import NOISE, OF_FRAMES, OF_RECEIVER, Opinion, Rule, compare_lists, print_differences, print_list
-from compare import print_opinions
+from access_points import Radio, bssid_of
+from compare import (NOISE, OF_FRAMES, OF_RECEIVER, Opinion, Rule, compare_lists, print_differences, print_list,
+                     print_opinions)
 from every_kind import SCAN
 from scans import TOLERANCE, Scans
-from steps import Faults, Step, unix_time
+from steps import Faults, Step, judge, unix_time
 
 MISSED = -100  # dBm; a sample of a cycle in which the access point was not heard
 NO_COUNTRY = "00"
@@ -40,7 +38,7 @@ def judge_refusals(results: Path, faults: Faults) -> None:
     messages = {}
     for name, (status, pattern) in REFUSALS.items():
         step = Step(results, name)
-        print(f"{name}: {step.status}: {step.message}")
+        print(step)
         faults.expect(step.status == status, f"{name}: exit status {step.status} instead of {status}")
         faults.expect(bool(re.search(pattern, step.message, re.I)), f"{name}: the message does not say why")
         messages[name] = step.message
@@ -68,7 +66,7 @@ def judge_making(entries: list[iw_dump.Entry], faults: Faults) -> None:
 def judge_list(step: Step, scans: Scans, opinion: Opinion, faults: Faults) -> tuple[list[dict], dict]:
     """The list of one step against iw's; returns its records, and iw's entries by address."""
     print(f"--- {step.name}")
-    if not faults.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}"):
+    if not faults.ended_well(step):
         return [], {}
     records = step.document("list.json")["networks"]
     since = scans.first_ending_after(step.begun).started - scans.booted
@@ -85,7 +83,6 @@ def judge_list(step: Step, scans: Scans, opinion: Opinion, faults: Faults) -> tu
 
 def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults) -> None:
     """Each access point's details: the list's record, with a history that fits it and the kernel's scans."""
-    leaving, _ = SCAN.radio_of_role("leaving")
     checked = samples = 0
     for record in records:
         bssid = record["bssid"]
@@ -102,7 +99,7 @@ def judge_details(step: Step, records: list[dict], scans: Scans, faults: Faults)
         heard = [sample for sample in history if sample["rssi"] != MISSED]
         last = (heard[-1]["timestamp"], heard[-1]["rssi"]) if heard else None
         faults.expect(last == (record["timestamp"], record["rssi"]), f"{bssid}: last heard when?")
-        if bssid == bssid_of(leaving, 0):
+        if bssid == SCAN.bssid_of("leaving"):
             gone = signals.index(MISSED) if MISSED in signals else len(signals)
             faults.expect(0 < gone < len(signals) and set(signals[gone:]) == {MISSED},
                           f"{bssid} was switched off between two cycles, its history is {signals}")
@@ -187,8 +184,7 @@ def judge_watch(results: Path, scans: Scans, opinion: Opinion, faults: Faults) -
         told[bssid] = line
     print(f"{len(lines)} lines; of them heard before a scan that the cycle began within: {early}")
     print_differences(differences)
-    hidden, _ = SCAN.radio_of_role("hidden")
-    faults.expect(bssid_of(hidden, 0) in told, f"{step.name}: a hidden access point was asked by name, yet not told of")
+    faults.expect(SCAN.bssid_of("hidden") in told, f"{step.name}: a hidden one was asked by name, yet not told of")
     for number, radio in enumerate(SCAN.radios, 1):
         if radio.becomes:
             judge_change(bssid_of(number, 0), radio, lines, faults)
@@ -205,9 +201,8 @@ def judge_change(bssid: str, radio: Radio, lines: list[dict], faults: Faults) ->
 def judge_joined(results: Path, scans: Scans, opinion: Opinion, faults: Faults) -> None:
     step = Step(results, "joined")
     records, _ = judge_list(step, scans, opinion, faults)
-    number, _ = SCAN.radio_of_role("joined")
     current = [record["bssid"] for record in records if record["isCurrentNetwork"]]
-    faults.expect(current == [bssid_of(number, 0)], f"marked as current: {current}")
+    faults.expect(current == [SCAN.bssid_of("joined")], f"marked as current: {current}")
     started = scans.first_ending_after(step.begun).started
     for record in records:
         entry = step.entries.get(record["bssid"])
@@ -215,18 +210,15 @@ def judge_joined(results: Path, scans: Scans, opinion: Opinion, faults: Faults) 
         faults.expect(not stale, f"{record['bssid']} was not heard in this scan, yet it is listed")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     judge_refusals(results, faults)
     scans = Scans(results)
     opinions = [Opinion("iw", OF_ANY)]
     judge_survey(results, scans, opinions, faults)
     judge_watch(results, scans, opinions[0], faults)
     judge_joined(results, scans, opinions[0], faults)
-    print_opinions(opinions)
-    faults.count += sum(sum(opinion.unexplained.values()) for opinion in opinions)
-    return faults.verdict()
+    print_opinions(opinions, faults)
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

@@ -1,5 +1,6 @@
 """The scans that the kernel made while a scenario ran, whoever asked for them, as `iw event -t` told."""
 
+import functools
 import re
 from pathlib import Path
 
@@ -16,21 +17,15 @@ class Scan:
     def __init__(self, started: float, finished: float, dump: Path, booted: float) -> None:
         self.started, self.finished = started, finished
         self._dump, self._booted = dump, booted
-        self._listed: list[iw_dump.Entry] | None = None
-        self._entries: dict[str, iw_dump.Entry] | None = None
 
-    @property
+    @functools.cached_property
     def listed(self) -> list[iw_dump.Entry]:
-        if self._listed is None:
-            self._listed = iw_dump.parse(self._dump.read_text(encoding="utf-8", errors="replace"))
-        return self._listed
+        return iw_dump.parse(self._dump.read_text(encoding="utf-8", errors="replace"))
 
-    @property
+    @functools.cached_property
     def entries(self) -> dict[str, iw_dump.Entry]:
         """By address, what counts of iw's list at the end of the scan."""
-        if self._entries is None:
-            self._entries = iw_dump.sightings(self.listed, self.started - self._booted - TOLERANCE)
-        return self._entries
+        return iw_dump.sightings(self.listed, self.started - self._booted - TOLERANCE)
 
     def heard(self, bssid: str) -> float | None:
         """When the access point was last heard, by that list; None where it is not in it."""

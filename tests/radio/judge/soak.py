@@ -1,12 +1,10 @@
-"""Judges what scenarios/soak.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/soak.sh has left."""
 
-import csv
 import json
 import statistics
-import sys
 from pathlib import Path
 
-from steps import Faults, Step
+from steps import Faults, Step, judge
 
 SETTLED = 300  # seconds until everything that is made once has been made
 MEMORY = 0.02  # of the level at that time
@@ -35,11 +33,6 @@ class Stretch:
     def yardsticks_per_cycle(self) -> float:
         """As many as fit into the time that one cycle takes."""
         return self.seconds_per_cycle() / statistics.mean(self.all("yardstick"))
-
-
-def read(path: Path) -> list[dict]:
-    with path.open(encoding="utf-8") as file:
-        return [{column: float(value) for column, value in row.items()} for row in csv.DictReader(file)]
 
 
 def judge_program(name: str, samples: list[dict], faults: Faults) -> None:
@@ -85,15 +78,13 @@ def judge_coming_and_going(lines: list[str], faults: Faults) -> None:
     faults.expect(bool(returns) and min(returns.values()) > 0, f"some never left: {returns}")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     step = Step(results, "soak")
-    if faults.expect(step.status == 0, f"exit status {step.status}: {step.message}"):
+    if faults.ended_well(step):
         for name in ("window", "scanner"):
-            judge_program(name, read(step.folder / f"{name}.csv"), faults)
+            judge_program(name, step.numbers(f"{name}.csv"), faults)
         judge_coming_and_going(step.text("scanner.log").splitlines(), faults)
-    return faults.verdict()
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

@@ -1,6 +1,9 @@
 """What a scenario has left of each step, and the faults that a judge finds."""
 
+import csv
 import json
+import sys
+from collections.abc import Callable
 from datetime import datetime
 from pathlib import Path
 
@@ -23,10 +26,16 @@ class Faults:
             print(f"FAULT: {fault}")
         return holds
 
-    def verdict(self) -> int:
-        """The judge's last word and exit status."""
-        print(f"{self.count} faults")
-        return 1 if self.count else 0
+    def ended_well(self, step: "Step") -> bool:
+        return self.expect(step.status == 0, f"{step.name}: exit status {step.status}: {step.message}")
+
+
+def judge(main: Callable[[Path, Faults], None]) -> None:
+    """Runs a judge with the results folder that the command line names; exit status 1 when there is a fault."""
+    faults = Faults()
+    main(Path(sys.argv[1]), faults)
+    print(f"{faults.count} faults")
+    sys.exit(faults.count > 0)
 
 
 class Step:
@@ -40,6 +49,9 @@ class Step:
         self.listed = iw_dump.parse(self.text("iw.txt"))
         self.entries = iw_dump.sightings(self.listed)
 
+    def __str__(self) -> str:
+        return f"{self.name}: {self.status} after {self.ended - self.begun:.1f} s: {self.message}"
+
     def _last_word(self) -> str:
         """Of the program or script: what its desktop session says when it is taken down comes after it."""
         lines = self.text("stderr").strip().splitlines() or [""]
@@ -50,3 +62,11 @@ class Step:
 
     def document(self, name: str):
         return json.loads(self.text(name))
+
+    def rows(self, name: str) -> list[dict[str, str]]:
+        """Of a table in CSV."""
+        return list(csv.DictReader(self.text(name).splitlines()))
+
+    def numbers(self, name: str) -> list[dict[str, float]]:
+        """Of a table that has nothing else."""
+        return [{column: float(value) for column, value in row.items()} for row in self.rows(name)]

@@ -1,13 +1,10 @@
-"""Judges what scenarios/window.sh has left: run with the results folder; exit status 1 when there is a fault."""
+"""Judges what scenarios/window.sh has left."""
 
-import csv
-import sys
 from pathlib import Path
 
-from access_points import bssid
 from iw_dump import Entry
 from plans import WINDOW
-from steps import Faults, Step
+from steps import Faults, Step, judge
 
 # A row of the details pane: what iw's entry says it should be.
 PANE = {
@@ -38,20 +35,17 @@ def compare(what: str, shown: dict, expected: dict, entry: Entry, faults: Faults
                       f"{what}: {field} is {shown.get(field)!r}, iw says {expectation(entry)!r}")
 
 
-def main(results: Path) -> int:
-    faults = Faults()
+def main(results: Path, faults: Faults) -> None:
     step = Step(results, "window")
     print(step.text("stdout"), end="")
-    if faults.expect(step.status == 0, f"exit status {step.status}: {step.message}"):
-        number, _ = WINDOW.radio_of_role("chosen")
-        compare("the pane", step.document("details.json"), PANE, step.entries[bssid(number, 0)], faults)
-        rows = list(csv.DictReader(step.text("list.csv").splitlines()))
+    if faults.ended_well(step):
+        compare("the pane", step.document("details.json"), PANE, step.entries[WINDOW.bssid_of("chosen")], faults)
+        rows = step.rows("list.csv")
         made = {address for address, _, _ in WINDOW.every_access_point()}
         faults.expect({row["BSSID"] for row in rows} == made, f"exported: {rows}")
         for row in rows:
             compare(row["SSID"], row, COLUMNS, step.entries[row["BSSID"]], faults)
-    return faults.verdict()
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)

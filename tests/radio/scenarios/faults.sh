@@ -24,11 +24,11 @@ has_scanned() {
 }
 both_have_scanned() { has_scanned 0 && has_scanned 1; }
 
-# fault NAME [WORDS]: break_NAME, which lasts until both programs have said the words, then mend_NAME.
+# fault NAME: break_NAME, which lasts until both programs have said its words where it has some, then mend_NAME.
 fault() {
     mark "$1" begun
     "break_$1"
-    [ -z "${2:-}" ] || wait_for 150 both_have_said "$2"
+    [ -z "${FAULT_WORDS[$1]:-}" ] || wait_for 150 both_have_said "${FAULT_WORDS[$1]}"
     mark "$1" ending
     "mend_$1"
     mark "$1" mended
@@ -53,8 +53,7 @@ break_join() {
 }
 mend_join() {
     run_network_manager
-    find /run/NetworkManager/system-connections /etc/NetworkManager/system-connections \
-        -name '*.nmconnection' -exec cat {} + >/out/join/profiles.txt
+    stored_profiles >/out/join/profiles.txt
     nmcli -g GENERAL.STATE,GENERAL.CONNECTION device show wlan0 >/out/join/device.txt
 }
 
@@ -117,10 +116,6 @@ stop_programs() { kill "-$1" "$(pidof aerolith-scan)" "$(pidof program)"; }
 break_stall() { stop_programs STOP && sleep 65; }
 mend_stall() { stop_programs CONT; }
 
-declare -A WORDS=([manager]='NetworkManager is not running' [supplicant]='wlan0 is not available'
-    [radio]='No WiFi interface found' [bus]='NetworkManager is not running' [hang]='NetworkManager does not answer'
-    [endless]='did not end in time')
-
 modprobe cfg80211 bss_entries_limit=4000
 start_radios
 start_access_points
@@ -133,7 +128,7 @@ WATCH=$!
 drive window 3600 faults.py . &
 WINDOW=$!
 wait_for 300 test -e /run/observed/window/ready || give_up "the window has not scanned"
-for name in $AEROLITH_FAULTS; do fault "$name" "${WORDS[$name]:-}"; done
+for name in $AEROLITH_FAULTS; do fault "$name"; done
 touch /run/observed/window/enough
 kill -INT "$(pidof aerolith-scan)"
 wait "$WATCH" "$WINDOW"

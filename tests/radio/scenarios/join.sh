@@ -2,24 +2,18 @@
 # Joining networks of the kinds that desktop.sh leaves out, every way in which it may fail, and what is left behind.
 # Sourced in the guest; judged on the host by judge/join.py.
 
-PROFILES=(/run/NetworkManager/system-connections /etc/NetworkManager/system-connections)
-
-# report NAME: what the machine is joined to, and every stored profile of a Wi-Fi network, in /out/NAME.
-report() {
-    network_manager_lives
-    iw dev wlan0 link >"/out/$1/link.txt"
-    find "${PROFILES[@]}" -name '*.nmconnection' -exec cat {} + >"/out/$1/profiles.txt"
-}
-
 station_is_settled() { [[ $(nmcli -g GENERAL.STATE device show wlan0) =~ ^(20|30|100)\  ]]; }
-no_profile_is_volatile() { ! compgen -G "${PROFILES[0]}/*.nmconnection"; }
+no_profile_is_volatile() { ! compgen -G "$VOLATILE_PROFILES/*.nmconnection"; }
 
-# join NAME SSID: an attempt to join with the password from standard input, and what it has left behind.
+# join NAME SSID: an attempt to join with the password from standard input, and what it has left behind in /out/NAME:
+# what the machine is joined to, and every stored profile.
 join() {
     wait_for 60 station_is_settled
     observe "$1" 120 join "$2"
     wait_for 10 no_profile_is_volatile # one that has failed goes a moment after its attempt
-    report "$1"
+    network_manager_lives
+    iw dev wlan0 link >"/out/$1/link.txt"
+    stored_profiles >"/out/$1/profiles.txt"
 }
 
 forget() {
