@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""peer.py NAME RESULT SCREEN COMMAND...: starts one graphical program cold, waits until the first row of its list is on
-the screen (the file SCREEN, an Xvfb frame buffer), lets it scan for a minute and writes to RESULT what that took. Runs
-as root. Nothing asks the program itself, so that nothing but its own work is measured."""
+"""peer.py NAME RESULT SCREEN: starts one graphical program cold, waits until the first row of its list is on the
+screen (the file SCREEN, an Xvfb frame buffer), lets it scan for a minute and writes to RESULT what that took. Runs as
+root. Nothing asks the program itself, so that nothing but its own work is measured. Without arguments, prints the names
+of the programs."""
 
 import json
 import os
@@ -25,8 +26,9 @@ DARK, LEAST_DARK = 120, 40  # a pixel of text, and how many of them are a row
 
 @dataclass
 class Peer:
-    """Where things are in its window, in pixels from the window's corner."""
+    """How it is started, and where things are in its window, in pixels from the window's corner."""
 
+    command: str  # with the environment's variables
     window: str  # the title of the window with the list
     row: tuple[int, int, int, int]  # the place of the first row's name: left, top, width, height; empty without one
     opener: tuple[str, int, int] | None = None  # a window and the button in it that opens the list or starts the scans
@@ -34,9 +36,10 @@ class Peer:
 
 
 PEERS = {
-    "aerolith": Peer("Aerolith", (44, 114, 150, 40)),
-    "linssid": Peer("LinSSID", (111, 145, 98, 60), ("LinSSID", 221, 61)),
-    "wpa_gui": Peer("Scan results", (12, 35, 100, 40), ("wpa_gui", 264, 332), (315, 220)),
+    "aerolith": Peer("$PROGRAM", "Aerolith", (44, 114, 150, 40)),
+    "linssid": Peer("linssid", "LinSSID", (111, 145, 98, 60), ("LinSSID", 221, 61)),
+    "wpa_gui": Peer("wpa_gui -i wlan0 -p $SUPPLICANT_SOCKETS", "Scan results", (12, 35, 100, 40), ("wpa_gui", 264, 332),
+                    (315, 220)),
 }
 
 
@@ -168,12 +171,12 @@ def ask_again(peer, until):
         time.sleep(INTERVAL)
 
 
-def measure(name, result, screen, command):
-    peer, group, services, forks = PEERS[name], Group("program"), Group("services"), Forks()
+def measure(peer, result, screen):
+    group, services, forks = Group("program"), Group("services"), Forks()
     os.sync()
     Path("/proc/sys/vm/drop_caches").write_text("3")
     begun = time.monotonic()
-    process = subprocess.Popen(command, preexec_fn=group.enter)
+    process = subprocess.Popen(os.path.expandvars(peer.command).split(), preexec_fn=group.enter)
     try:
         show_list(peer, Screen(screen))
         first_list = time.monotonic() - begun
@@ -190,12 +193,12 @@ def measure(name, result, screen, command):
             "memory": group.memory(), "processes": forks.descended(process.pid)}
 
 
-def main(name, result, screen, *command):
+def main(name, result, screen):
     result = Path(result)
-    measured = measure(name, result, screen, command)
+    measured = measure(PEERS[name], result, screen)
     print(measured, flush=True)
     result.write_text(json.dumps(measured))
 
 
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    main(*sys.argv[1:]) if sys.argv[1:] else print(*PEERS)

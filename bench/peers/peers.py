@@ -1,13 +1,12 @@
-"""Tells what peers.sh has measured as a Markdown table: run with the results folder; exit status 1 where a program has
-shown no list."""
+"""Tells what peers.sh has measured as a Markdown table; a program that has shown no list is a fault."""
 
 import json
-import sys
 from pathlib import Path
 
+from peer import PEERS
 from plans import CROWDS
+from steps import Faults, judge
 
-NAMES = ("aerolith", "linssid", "wpa_gui")
 COLUMNS = {
     "first_list": ("First list (s)", ".1f"),
     "memory": ("Memory (MiB)", ".1f"),
@@ -39,18 +38,15 @@ def table(size: int, measured: dict) -> None:
     print()
 
 
-def main(results: Path) -> int:
-    missing = 0
+def main(results: Path, faults: Faults) -> None:
     for size in CROWDS["peers"]:
-        files = {name: results / f"{name}-{size}.json" for name in NAMES}
+        files = {name: results / f"{name}-{size}.json" for name in PEERS}
         measured = {name: json.loads(file.read_text()) for name, file in files.items() if file.exists()}
-        for name in files.keys() - measured.keys():
-            print(f"FAULT: {name} has shown no list among {size}: see {name}-{size}.log")
-        missing += len(files) - len(measured)
+        for name in PEERS:
+            faults.expect(name in measured, f"{name} has shown no list among {size}: see {name}-{size}.log")
         if "aerolith" in measured and len(measured) > 1:
             table(size, measured)
-    return 1 if missing else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(Path(sys.argv[1])))
+    judge(main)
