@@ -42,11 +42,10 @@ FORMS = (
 
 
 def commands(document):
-    """The indented lines outside of lists that are no markup, without the remarks behind them."""
+    """The indented lines outside of lists that are neither markup nor a drawing, without the remarks behind them."""
     text = re.sub(r"\\\n +", "", document.read_text(encoding="utf-8"))
     for line in text.splitlines():
-        shown = re.match(r"    (?=[\w./])(?!\w+ ─)(.*)", line)
-        if shown:
+        if shown := re.match(r"    (?=[\w./])(?!\w+ ─)(.*)", line):
             yield re.sub(r"\s+#.*", "", shown[1])
 
 
@@ -85,7 +84,7 @@ def main(source, build):
     seen, failed = set(), 0
     for name in listed.stdout.split():
         shown = list(commands(source / name))
-        if name == "ARCHITECTURE.md" or not shown:
+        if not shown:
             continue
         print(f"== {name}")
         with tempfile.TemporaryDirectory() as path:
