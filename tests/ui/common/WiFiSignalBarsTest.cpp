@@ -13,25 +13,6 @@
 
 namespace aerolith {
 
-namespace {
-
-constexpr QRectF frame(10, 5, 20, 15);
-constexpr QColor ground(128, 128, 128);
-
-/// The glyph on gray, at two device pixels for each point.
-QImage painted(const WiFiSignalBars& bars, const QPalette& palette)
-{
-    QImage image(80, 50, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(2);
-    image.fill(ground);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    bars.paint(painter, frame, palette);
-    return image;
-}
-
-} // namespace
-
 TEST(WiFiSignalBars, LightAsTheSignalDeserves)
 {
     using Limits = std::numeric_limits<qint64>;
@@ -41,23 +22,23 @@ TEST(WiFiSignalBars, LightAsTheSignalDeserves)
     for (const auto& [rssi, lit] : cases) {
         EXPECT_EQ(WiFiSignalBars{.rssi = rssi}.litCount(), lit) << rssi;
     }
-    EXPECT_EQ((WiFiSignalBars{.rssi = -50, .barCount = 2}.litCount()), 2);
-    EXPECT_EQ((WiFiSignalBars{.rssi = -50, .barCount = 7}.litCount()), 4);
 }
 
 TEST(WiFiSignalBars, ArePaintedSharpInTheirColours)
 {
-    const QColor accent(200, 100, 0);
-    QPalette palette;
-    palette.setColor(QPalette::Highlight, accent);
+    const QColor ground(128, 128, 128);
     for (const bool isSelected : {false, true}) {
         SCOPED_TRACE(isSelected);
-        const QImage image = painted({.rssi = -80, .isSelected = isSelected}, palette);
-        EXPECT_EQ(image.pixelColor(2 * 12, 2 * 12), isSelected ? QColor(Qt::white) : accent);
-        const QColor unlit = Theme::blended(isSelected ? Qt::white : Theme::gray(), ground, 0.3);
-        EXPECT_NEAR(image.pixelColor(2 * 27, 2 * 12).blue(), unlit.blue(), 1);
-        const QImage line = image.copy(0, 2 * 12, image.width(), 1);
-        EXPECT_EQ(coloursOf(line).size(), 3) << "an edge between two pixels";
+        QImage image(80, 50, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(2);
+        image.fill(ground);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        WiFiSignalBars{.rssi = -80, .isSelected = isSelected}.paint(painter, {10, 5, 20, 15}, QPalette());
+        const QColor lit = isSelected ? QColor(Qt::white) : Theme::accent(QPalette());
+        EXPECT_EQ(image.pixelColor(2 * 12, 2 * 12), lit);
+        EXPECT_EQ(coloursOf(image.copy(0, 2 * 12, image.width(), 1)).size(), 3)
+            << "an edge between two pixels";
         for (const int y : {8, 16}) {
             EXPECT_EQ(image.pixelColor(2 * 12, 2 * y), ground) << "the shortest, in the middle";
             EXPECT_NE(image.pixelColor(2 * 27, 2 * y), ground);
