@@ -30,18 +30,6 @@ protected:
         settle();
     }
 
-    /// The items that can be seen, in reading order.
-    QStringList visibleItems()
-    {
-        QStringList names;
-        for (const QString& name : {u"exportDetails"_s, u"lastSeen"_s, u"refresh"_s, u"scanning"_s}) {
-            if (child(name).isVisible()) {
-                names.append(name);
-            }
-        }
-        return names;
-    }
-
     QString lastSeen() { return child<QLabel>(u"lastSeen"_s).text(); }
 
     QWidget window;
@@ -50,41 +38,29 @@ protected:
 
 } // namespace
 
-TEST_F(DetailStatusBarTest, OffersTheScanAloneWithoutANetwork)
-{
-    EXPECT_EQ(visibleItems(), QStringList({u"exportDetails"_s, u"lastSeen"_s, u"refresh"_s}));
-    bar.showNetwork({});
-    EXPECT_EQ(visibleItems(), QStringList({u"refresh"_s}));
-    bar.layout()->activate();
-    EXPECT_GT(child(u"refresh"_s).x(), 450) << "on the right";
-}
-
-TEST_F(DetailStatusBarTest, TurnsTheRefreshIntoASpinnerWhileScanning)
+TEST_F(DetailStatusBarTest, AgesTheNetworkAsItsRefreshTurnsIntoASpinnerAndBack)
 {
     auto& refresh = child(u"refresh"_s);
+    auto& spinner = child(u"scanning"_s);
     refresh.setFocus();
-    engine.log.take();
-    QTest::keyClick(&refresh, Qt::Key_Space);
-    settle();
-    EXPECT_EQ(engine.log.take().count(u"Starting network scan..."_s), 1);
-    EXPECT_EQ(visibleItems().last(), u"scanning"_s);
-    EXPECT_EQ(child(u"scanning"_s).geometry().center().x(), refresh.geometry().center().x());
-
-    engine.scanTasks.runOne();
-    settle();
-    EXPECT_EQ(visibleItems().last(), u"refresh"_s);
-    EXPECT_TRUE(refresh.hasFocus()) << "the keyboard is where it was";
-}
-
-TEST_F(DetailStatusBarTest, AgesTheNetworkWithEveryPublish)
-{
     EXPECT_EQ(lastSeen(), u"Last seen 0 sec. ago"_s);
     engine.main.advance(Seconds(12));
     settle();
     EXPECT_EQ(lastSeen(), u"Last seen 0 sec. ago"_s) << "there is no clock";
-    engine.scanner->scanNetworks();
+    QTest::keyClick(&refresh, Qt::Key_Space);
     settle();
     EXPECT_EQ(lastSeen(), u"Last seen 12 sec. ago"_s);
+    EXPECT_TRUE(spinner.isVisible() && !refresh.isVisible());
+    EXPECT_EQ(spinner.geometry().center().x(), refresh.geometry().center().x());
+
+    engine.scanTasks.runOne();
+    settle();
+    EXPECT_TRUE(refresh.isVisible() && !spinner.isVisible());
+    EXPECT_TRUE(refresh.hasFocus()) << "the keyboard is where it was";
+
+    bar.showNetwork({});
+    EXPECT_FALSE(child(u"exportDetails"_s).isVisible() || child(u"lastSeen"_s).isVisible());
+    EXPECT_TRUE(refresh.isVisible());
 }
 
 TEST_F(DetailStatusBarTest, SavesWhatIsShownWhenTheUserConfirms)

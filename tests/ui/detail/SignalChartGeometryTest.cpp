@@ -45,10 +45,7 @@ TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
     } const cases[] = {
         {{}, {-100, 0}, {0, -16, -32, -48, -64, -80, -96}},
         {history({-50}), {-55, -45}, {-45, -46, -47, -48, -49, -50, -51, -52, -53, -54, -55}},
-        {history({-55, -82, -60}), {-87, -50}, {-50, -56, -62, -68, -74, -80, -86}},
-        // A cycle that did not hear the access point.
-        {history({-50, -100, -50}), {-105, -45}, {-45, -55, -65, -75, -85, -95, -105}},
-        {history({-60, -58}, -200), {-65, -53}, {-53, -55, -57, -59, -61, -63, -65}},
+        {history({-55, -82, -60}, -200), {-87, -50}, {-50, -56, -62, -68, -74, -80, -86}},
         // The limits of what a radio may report.
         {history({least, most}),
          {least - 5, most + 5},
@@ -62,7 +59,7 @@ TEST(SignalChartScale, ShowsEverySampleWithRoomAndAGridOfSixParts)
     }
 }
 
-TEST(SignalChartGeometry, SpreadsTheSamplesFromEdgeToEdge)
+TEST(SignalChartGeometry, SpreadsTheSamplesFromEdgeToEdgeAboveAClosedArea)
 {
     const SignalChartGeometry three = geometry(history({-55, -82, -60}));
     const QList<QPointF> expected{{0, 250.0 * 5 / 37}, {300, 250.0 * 32 / 37}, {600, 250.0 * 10 / 37}};
@@ -71,8 +68,11 @@ TEST(SignalChartGeometry, SpreadsTheSamplesFromEdgeToEdge)
     EXPECT_EQ(three.gridLines().first(), QLineF(0, 0, 600, 0));
     EXPECT_NEAR(three.gridLines().last().y1(), 250.0 * 36 / 37, 1e-9);
 
-    EXPECT_EQ(corners(geometry(history({-60, -60})).signalLine()), (QList<QPointF>{{0, 125}, {600, 125}}));
-    EXPECT_EQ(geometry(history({-50})).signalPoint(0), QPointF(0, 125));
+    const SignalChartGeometry one = geometry(history({-50}));
+    EXPECT_EQ(one.signalPoint(0), QPointF(0, 125));
+    EXPECT_EQ(one.signalLine().length(), 0);
+    EXPECT_EQ(corners(one.area()), (QList<QPointF>{{0, 250}, {0, 125}, {600, 250}, {0, 250}}));
+    EXPECT_TRUE(geometry({}).area().isEmpty() && geometry({}).signalLine().isEmpty());
 }
 
 TEST(SignalChartGeometry, IsHorizontalAtEverySampleAndNeverOvershoots)
@@ -90,31 +90,11 @@ TEST(SignalChartGeometry, IsHorizontalAtEverySampleAndNeverOvershoots)
     EXPECT_EQ(line.boundingRect(), QRectF(0, top, 600, 250 - 2 * top));
 }
 
-TEST(SignalChartGeometry, ClosesTheAreaAlongTheEdges)
-{
-    EXPECT_TRUE(geometry({}).area().isEmpty());
-    EXPECT_TRUE(geometry({}).signalLine().isEmpty());
-
-    const SignalChartGeometry one = geometry(history({-50}));
-    EXPECT_EQ(corners(one.area()), (QList<QPointF>{{0, 250}, {0, 125}, {600, 250}, {0, 250}}));
-    EXPECT_EQ(one.signalLine().length(), 0);
-
-    const SignalChartGeometry two = geometry(history({-50, -60}));
-    EXPECT_EQ(corners(two.area()), (QList<QPointF>{{0, 250}, {0, 62.5}, {600, 187.5}, {600, 250}, {0, 250}}));
-}
-
-TEST(SignalChartGeometry, WritesTheValuesAsOneBlockInTheMiddle)
-{
-    const QList<QRectF> labels = valueLabels({6, 18, 24}, 12, fullSize);
-    EXPECT_EQ(labels, (QList<QRectF>{{18, 103, 6, 12}, {6, 119, 18, 12}, {0, 135, 24, 12}}));
-    EXPECT_TRUE(valueLabels({}, 12, fullSize).isEmpty());
-}
-
 TEST(TrimmedPath, EndsAtItsShareOfTheLengthAlongTheCurve)
 {
     // Of very different lengths: a share of the segments or of the width is no share of the length.
     const QPainterPath line = geometry(history({-50, -100, -99, -99, -30})).signalLine();
-    for (const double fraction : {0.0, 0.001, 0.25, 0.5, 0.77, 0.999, 1.0}) {
+    for (const double fraction : {0.0, 0.001, 0.5, 0.77, 1.0}) {
         SCOPED_TRACE(fraction);
         const QPainterPath drawn = trimmed(line, fraction);
         const double length = line.length() * fraction;
@@ -125,7 +105,6 @@ TEST(TrimmedPath, EndsAtItsShareOfTheLengthAlongTheCurve)
         EXPECT_NEAR(drawn.currentPosition().y(), there.y(), 0.1);
     }
     EXPECT_TRUE(trimmed({}, 0.5).isEmpty());
-    EXPECT_EQ(trimmed(geometry(history({-50})).signalLine(), 0.5).length(), 0);
 }
 
 } // namespace aerolith
