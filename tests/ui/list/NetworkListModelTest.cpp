@@ -17,21 +17,14 @@ using testing::ElementsAre;
 
 namespace {
 
-WiFiNetwork record(const QString& bssid, qint64 rssi = -50)
-{
-    WiFiNetwork network;
-    network.bssid = bssid;
-    network.ssid = u"net "_s + bssid;
-    network.rssi = rssi;
-    return network;
-}
-
 /// A row for each letter.
-ShownNetworks shown(const QString& letters, const QSet<QString>& hidden = {})
+ShownNetworks shown(const QString& letters)
 {
-    ShownNetworks shown{.networks = {}, .hidden = hidden};
+    ShownNetworks shown;
     for (const QChar letter : letters) {
-        shown.networks.append(record(letter));
+        WiFiNetwork network;
+        network.bssid = letter;
+        shown.networks.append(network);
     }
     return shown;
 }
