@@ -26,13 +26,6 @@ public:
 class StatusMenuDriver : public ViewDriver
 {
 protected:
-    /// Begins the program's life in the bar.
-    void start()
-    {
-        make();
-        engine.main.drain();
-    }
-
     void make()
     {
         const auto makeStatusItem = [this] {
@@ -47,6 +40,13 @@ protected:
                                                              .log = engine.log,
                                                              .openMainWindow = [this] { ++timesOpened; },
                                                              .makeStatusItem = makeStatusItem});
+    }
+
+    /// Begins the program's life in the bar.
+    void start()
+    {
+        make();
+        engine.main.drain();
     }
 
     void pressIcon()

@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -59,62 +58,30 @@ TEST_F(StatusMenuTest, ShowsTheRadioAsItWasFoundInTheBar)
 {
     engine.wifi.air.isOn = false;
     start();
-    EXPECT_FALSE(controller->isWiFiEnabled());
     EXPECT_EQ(item->image, icon(u"wifi.slash"_s));
     engine.wifi.setPresent(false);
     start();
-    EXPECT_TRUE(controller->isWiFiEnabled()) << "where there is none, none is off";
-    EXPECT_EQ(item->image, icon(u"wifi"_s));
-
-    engine.wifi.setPresent(true);
-    engine.wifi.air.isOn = true;
-    start();
-    engine.wifi.air.isOn = false;
-    EXPECT_EQ(item->image, icon(u"wifi"_s)) << "switched elsewhere, it goes unnoticed";
+    EXPECT_EQ(item->image, icon(u"wifi"_s)) << "where there is none, none is off";
 }
 
-TEST_F(StatusMenuTest, ComesIntoTheBarOnALaterTurnIfItStillExists)
+TEST_F(StatusMenuTest, ComesIntoTheBarOnALaterTurnIfItStillExistsAndWaitsForAButtonThere)
 {
     make();
-    EXPECT_EQ(item, nullptr);
     controller.reset();
     engine.main.drain();
     EXPECT_EQ(item, nullptr);
-}
 
-TEST_F(StatusMenuTest, WaitsForAButtonInTheBar)
-{
     isOffered = false;
     start();
-    const QSignalSpy published(&*controller, &StatusMenuController::isWiFiEnabledChanged);
     controller->updateStatusIcon(false);
-    EXPECT_TRUE(controller->isWiFiEnabled());
-    EXPECT_TRUE(published.isEmpty());
-    EXPECT_TRUE(item->image.isNull());
+    EXPECT_TRUE(controller->isWiFiEnabled() && item->image.isNull());
     pressIcon();
     EXPECT_FALSE(isOpen() || scans() || controller->hasStatusItem());
-
     item->isOffered = true;
     Q_EMIT item->buttonAppeared();
     EXPECT_EQ(item->image, icon(u"wifi"_s));
     pressIcon();
     EXPECT_TRUE(isOpen());
-}
-
-TEST_F(StatusMenuTest, OpensAndClosesUnderItsIconAndScansAtEveryOpening)
-{
-    start();
-    EXPECT_EQ(popover(), nullptr) << "not made before it is wanted";
-    for (int round = 0; round < 2; ++round) {
-        pressIcon();
-        ASSERT_TRUE(isOpen());
-        EXPECT_TRUE(scans());
-        EXPECT_EQ(popover()->geometry().top(), 22);
-        EXPECT_NEAR(popover()->geometry().center().x(), 610, 2);
-        pressIcon();
-        EXPECT_FALSE(isOpen());
-        EXPECT_FALSE(scans());
-    }
 }
 
 TEST(PopoverPlace, IsByTheIconAndOnTheScreen)
@@ -123,38 +90,36 @@ TEST(PopoverPlace, IsByTheIconAndOnTheScreen)
     const QRect available(1280, 30, 1000, 800);
     const QSize size(302, 402);
 
-    const struct
-    {
-        const char* icon;
-        QRect rect;
-        QPoint place;
-    } places[] = {
-        {"in a bar above", {1700, 0, 22, 30}, {1559, 30}},
-        {"in a bar above, at its end", {2250, 0, 22, 30}, {1978, 30}},
-        {"in a bar above, at its beginning", {1280, 0, 22, 30}, {1280, 30}},
-        {"in a bar below", {1700, 830, 22, 30}, {1559, 428}},
-        {"in a bar at the left", {1290, 700, 22, 22}, {1280, 298}},
-        {"pressed somewhere", {1800, 100, 1, 1}, {1649, 101}},
+    const std::pair<QRect, QPoint> places[] = {
+        {{1700, 0, 22, 30}, {1559, 30}},    // in a bar above
+        {{2250, 0, 22, 30}, {1978, 30}},    // at its end
+        {{1280, 0, 22, 30}, {1280, 30}},    // at its beginning
+        {{1700, 830, 22, 30}, {1559, 428}}, // in a bar below
+        {{1290, 700, 22, 22}, {1280, 298}}, // in a bar at the left
     };
-
-    for (const auto& [icon, rect, place] : places) {
-        EXPECT_EQ(popoverPlace(size, rect, available), place) << icon;
+    for (const auto& [icon, place] : places) {
+        EXPECT_EQ(popoverPlace(size, icon, available), place) << place.x() << ' ' << place.y();
     }
     EXPECT_EQ(popoverPlace(size, {50, 0, 22, 20}, {0, 20, 200, 300}), QPoint(0, 20)) << "a tiny screen";
 }
 
-TEST_F(StatusMenuTest, ClosesWhenTheUserTurnsElsewhere)
+TEST_F(StatusMenuTest, ScansAtEveryOpeningAndClosesWhenTheUserTurnsElsewhere)
 {
-    open();
-    QTest::keyClick(popover(), Qt::Key_Escape);
+    start();
+    EXPECT_EQ(popover(), nullptr) << "not made before it is wanted";
+    pressIcon();
+    EXPECT_TRUE(isOpen() && child(u"scanning"_s).isVisible());
+    EXPECT_NEAR(popover()->geometry().center().x(), 610, 2);
+    EXPECT_TRUE(scans());
+    EXPECT_FALSE(child(u"scanning"_s).isVisible());
+    pressIcon();
+    EXPECT_FALSE(isOpen() || scans());
+    pressIcon();
+    QTest::keyClick(&list(), Qt::Key_Escape);
     EXPECT_FALSE(isOpen());
     pressIcon();
-    EXPECT_TRUE(isOpen()) << "opened again at once";
-    QTest::keyClick(&list(), Qt::Key_Escape);
-    EXPECT_FALSE(isOpen()) << "also from the list";
+    EXPECT_TRUE(isOpen() && scans()) << "opened again at once";
 
-    pressIcon();
-    scans();
     // The icon's own press comes twice: to the popover as one outside, then as the icon's.
     QTest::mouseClick(popover(), Qt::LeftButton, {}, QPoint(-30, -10));
     EXPECT_FALSE(isOpen());
@@ -170,15 +135,10 @@ TEST_F(StatusMenuTest, ListsWhatTheScannerPublishesWhileItIsOpen)
     scan(air);
     pressIcon();
     EXPECT_EQ(names(), QStringList({u"beta"_s, u"<b>C</b>&\uFFFD"_s, u"Alpha"_s}));
-    engine.scanner->setSortOption(SortOption::ssid);
-    settle();
-    EXPECT_EQ(names(), QStringList({u"<b>C</b>&\uFFFD"_s, u"Alpha"_s, u"beta"_s}));
-
     engine.wifi.air.bssid = u"a"_s;
     scan(air);
     EXPECT_EQ(names().first(), u"Alpha"_s);
-    EXPECT_EQ(rect(0).height(), rect(1).height() + 29) << "the joined network's row, which has a chart";
-    EXPECT_EQ(rect(1).top(), rect(0).bottom() + 1);
+    EXPECT_GT(rect(0).height(), rect(1).height()) << "the joined network's row, which has a chart";
     EXPECT_TRUE(list().model()->index(0, 0).data(Qt::AccessibleTextRole).toString().endsWith(u"joined"_s));
 
     pressIcon();
@@ -186,35 +146,14 @@ TEST_F(StatusMenuTest, ListsWhatTheScannerPublishesWhileItIsOpen)
     EXPECT_EQ(list().model()->rowCount(), 0) << "nothing is kept while nobody looks";
     pressIcon();
     EXPECT_EQ(names().size(), 3);
-    engine.scanner->clearNetworks();
-    settle();
-    EXPECT_EQ(names(), QStringList());
-}
-
-TEST_F(StatusMenuTest, TurnsItsSpinnerOnlyWhileAScanIsSeen)
-{
-    start();
-    pressIcon();
-    auto& spinner = child(u"scanning"_s);
-    EXPECT_TRUE(spinner.isVisible());
-    scans();
-    EXPECT_FALSE(spinner.isVisible());
-    engine.wifi.air.scan = Error{u"no radio"_s};
-    engine.runCycle();
-    EXPECT_FALSE(spinner.isVisible()) << "after a failure too";
-    pressIcon();
-    engine.scanner->scanNetworks();
-    settle();
-    EXPECT_FALSE(spinner.isVisible());
 }
 
 TEST_F(StatusMenuTest, SwitchesTheRadio)
 {
     open();
     throwSwitch();
-    EXPECT_FALSE(engine.wifi.air.isOn);
+    EXPECT_FALSE(engine.wifi.air.isOn || scans());
     EXPECT_EQ(item->image, icon(u"wifi.slash"_s));
-    EXPECT_FALSE(scans());
     power().setChecked(true);
     EXPECT_TRUE(engine.wifi.air.isOn) << "as assistive technology does it";
     EXPECT_EQ(item->image, icon(u"wifi"_s));
@@ -224,16 +163,7 @@ TEST_F(StatusMenuTest, SwitchesTheRadio)
     engine.wifi.air.powerRefusal = Error{u"not permitted"_s};
     throwSwitch();
     EXPECT_EQ(engine.log.take(), QStringList{u"Failed to toggle WiFi: not permitted"_s});
-    EXPECT_FALSE(power().isChecked());
-    EXPECT_FALSE(controller->isWiFiEnabled());
-    EXPECT_EQ(item->image, icon(u"wifi"_s));
-
-    engine.wifi.setPresent(false);
-    throwSwitch();
-    EXPECT_TRUE(power().isChecked());
-    EXPECT_TRUE(controller->isWiFiEnabled());
-    EXPECT_FALSE(scans());
-    EXPECT_EQ(engine.log.take(), QStringList());
+    EXPECT_EQ(item->image, icon(u"wifi"_s)) << "as the radio still is";
 }
 
 TEST_F(StatusMenuTest, JoinsTheNetworkOfTheRow)
@@ -269,15 +199,13 @@ TEST_F(StatusMenuTest, JoinsTheNetworkOfTheRow)
 TEST_F(StatusMenuTest, JoinsNothingThatIsNoLongerFound)
 {
     open();
-    engine.log.take();
     engine.wifi.air.scan = QList<CWNetwork>();
     pressButton(0);
     settle();
-    EXPECT_EQ(engine.log.take(), QStringList());
     engine.wifi.air.scan = Error{u"radio off"_s};
     pressButton(0);
     settle();
-    EXPECT_EQ(engine.log.take(), QStringList{u"Error finding network: radio off"_s});
+    EXPECT_EQ(engine.log.take().last(), u"Error finding network: radio off"_s);
     EXPECT_TRUE(engine.wifi.air.joins.isEmpty() && user.shown.isEmpty());
 }
 
@@ -303,12 +231,11 @@ TEST_F(StatusMenuTest, IsOperatedByKeys)
     engine.wifi.air.bssid = u"b"_s;
     open();
     ASSERT_TRUE(list().hasFocus());
-    QTest::keyClick(&list(), Qt::Key_Return);
-    settle();
-    EXPECT_TRUE(engine.wifi.air.joins.isEmpty()) << "no row stands out yet";
-    QTest::keyClick(&list(), Qt::Key_Return);
-    settle();
-    EXPECT_TRUE(engine.wifi.air.askedFor.isEmpty()) << "it is joined already";
+    for (const char* why : {"no row stands out yet", "it is joined already"}) {
+        QTest::keyClick(&list(), Qt::Key_Return);
+        settle();
+        EXPECT_TRUE(engine.wifi.air.askedFor.isEmpty()) << why;
+    }
     QTest::keyClick(&list(), Qt::Key_End);
     QTest::keyClick(&list(), Qt::Key_Return);
     settle();
@@ -324,27 +251,21 @@ TEST_F(StatusMenuTest, LeadsToTheProgramAndTheDesktopsTools)
     EXPECT_EQ(timesOpened, 1);
 
     auto& tools = child<QMenu>(u"toolsMenu"_s);
-    ASSERT_EQ(tools.actions().size(), 2);
-    QAction& settings = *tools.actions().first();
     QAction& diagnostics = *tools.actions().last();
     engine.log.take();
-    settings.trigger();
-    EXPECT_EQ(desktop.workspace.pages, QList<SettingsPage>{SettingsPage::wifi});
-    EXPECT_EQ(engine.log.take(), QStringList());
     desktop.workspace.refusal = Error{u"not installed"_s};
-    settings.trigger();
+    tools.actions().first()->trigger();
+    EXPECT_EQ(desktop.workspace.pages, QList<SettingsPage>{SettingsPage::wifi});
     EXPECT_EQ(engine.log.take(), QStringList{u"not installed"_s});
 
     desktop.workspace.noDiagnostics = Error{u"no tool"_s};
     Q_EMIT tools.aboutToShow();
     EXPECT_FALSE(diagnostics.isEnabled());
-    EXPECT_TRUE(tools.toolTipsVisible());
     EXPECT_EQ(diagnostics.toolTip(), u"no tool"_s);
     desktop.workspace.noDiagnostics.reset();
     Q_EMIT tools.aboutToShow();
     diagnostics.trigger();
     EXPECT_EQ(desktop.workspace.timesDiagnosed, 1);
-    EXPECT_EQ(engine.log.take(), QStringList{u"not installed"_s});
 }
 
 } // namespace aerolith

@@ -69,8 +69,7 @@ TEST(TrayHost, FollowsTheHostAndNotItsWatcher)
     QObject::connect(&host, &TrayHost::appeared, &host, [&] { ++appeared; });
     EXPECT_TRUE(handleEventsUntil([&] { return desktop.questions == 1; }));
     handleWaitingEvents();
-    EXPECT_FALSE(host.isThere()) << "the watcher is up before its host";
-    EXPECT_EQ(appeared, 0);
+    EXPECT_TRUE(!host.isThere() && appeared == 0) << "the watcher is up before its host";
 
     desktop.setHost(true);
     EXPECT_TRUE(handleEventsUntil([&] { return appeared == 1; }));
