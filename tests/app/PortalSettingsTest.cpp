@@ -95,7 +95,11 @@ class PortalSettingsTest : public testing::Test
 protected:
     PortalSettingsTest() { QApplication::setStyle(new ProgramStyle); }
 
-    ~PortalSettingsTest() override { QApplication::setPalette(QPalette()); }
+    ~PortalSettingsTest() override
+    {
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(u"Fusion"_s);
+    }
 
     /// As a desktop tells whether it is dark.
     static Settings colourScheme(uint scheme)
@@ -137,19 +141,18 @@ protected:
 
 TEST_F(PortalSettingsTest, ReduceMotionWhileTheProgramRuns)
 {
-    FakePortal portal(
-        bus().address(),
-        QVariant::fromValue(Settings{{u"org.gnome.desktop.interface"_s,
-                                      {{u"enable-animations"_s, false}, {u"font-name"_s, u"Sans"_s}}}}));
+    const QString gnome = PortalSettings::gnome;
+    FakePortal portal(bus().address(),
+                      QVariant::fromValue(Settings{{gnome, {{u"enable-animations"_s, false}}}}));
     start(&portal);
     EXPECT_FALSE(window.moves());
     portal.awaitQuestions(2);
 
-    portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
+    portal.change(gnome, u"enable-animations"_s, true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.moves(); }));
-    portal.change(u"org.freedesktop.appearance"_s, u"reduced-motion"_s, 1U);
+    portal.change(PortalSettings::standard, u"reduced-motion"_s, 1U);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
-    portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, true);
+    portal.change(gnome, u"enable-animations"_s, true);
     QTest::qWait(50);
     EXPECT_FALSE(window.moves()) << "either of them is enough";
 }
@@ -160,12 +163,10 @@ TEST_F(PortalSettingsTest, MakeTheProgramDarkFromItsFirstPicture)
     start(&portal);
     EXPECT_TRUE(isDark());
     portal.awaitQuestions(2);
-    portal.change(PortalSettings::standard, u"color-scheme"_s, 2U);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isDark(); }));
-    portal.change(PortalSettings::standard, u"color-scheme"_s, 1U);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isDark(); }));
-    portal.change(PortalSettings::standard, u"color-scheme"_s, 0U);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isDark(); })) << "no wish";
+    for (const uint scheme : {2U, 1U, 0U}) {
+        portal.change(PortalSettings::standard, u"color-scheme"_s, scheme);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isDark() == (scheme == 1); })) << scheme;
+    }
 }
 
 TEST_F(PortalSettingsTest, AreAskedForAgainWhereThePortalBeginsLate)
@@ -192,7 +193,7 @@ TEST_F(PortalSettingsTest, OutliveAnAnswerOfAnotherType)
     start(&portal);
     portal.awaitQuestions(2);
     EXPECT_TRUE(window.moves());
-    portal.change(u"org.gnome.desktop.interface"_s, u"enable-animations"_s, false);
+    portal.change(PortalSettings::gnome, u"enable-animations"_s, false);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
 }
 
