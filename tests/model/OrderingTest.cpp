@@ -17,21 +17,19 @@ struct Row
     qint64 rssi = -50;
     bool current = false;
     qint64 channel = 1;
-    QString security = u"WPA2"_s;
+    QString security = {};
 };
 
 WiFiNetworkList listOf(const QList<Row>& rows)
 {
     WiFiNetworkList list;
     for (const Row& row : rows) {
-        WiFiNetwork record;
+        WiFiNetwork& record = list.emplaceBack();
         record.ssid = row.ssid;
-        record.bssid = QString::number(list.size());
         record.rssi = row.rssi;
         record.isCurrentNetwork = row.current;
         record.channel = row.channel;
         record.security = row.security;
-        list.append(record);
     }
     return list;
 }
@@ -60,29 +58,25 @@ TEST(Ordering, ScanOrderIsCurrentThenStrongestThenAsGiven)
     EXPECT_EQ(names(inScanOrder(listOf({{u"a"_s, least}, {u"b"_s, least + 1}, {u"c"_s, 5}}))), u"c b a"_s);
 }
 
-TEST(Ordering, NamesIgnoreCaseAndKeepTheOrderOfEquals)
+TEST(Ordering, NamesFollowTheUsersAlphabetAndIgnoreCase)
 {
     EXPECT_EQ(byOption({{u"gamma"_s}, {u"Beta"_s}, {u"alpha"_s}}, SortOption::ssid), u"alpha Beta gamma"_s);
     EXPECT_EQ(byOption({{u"cafe"_s}, {u"Cafe"_s}, {u"cafe"_s}}, SortOption::ssid), u"cafe Cafe cafe"_s);
-    EXPECT_EQ(byOption({{u"zz"_s, -90, true}, {u"a"_s}}, SortOption::ssid), u"zz a"_s);
-}
-
-TEST(Ordering, NamesFollowTheUsersAlphabet)
-{
     const QList<Row> rows{{u"Ö"_s}, {u"Z"_s}, {u"O"_s}};
-    EXPECT_EQ(byOption(rows, SortOption::ssid, "de_DE"), u"O Ö Z"_s);
-    EXPECT_EQ(byOption(rows, SortOption::ssid, "sv_SE"), u"O Z Ö"_s);
-    EXPECT_EQ(byOption(rows, SortOption::ssid, "xx_nowhere"), u"O Ö Z"_s);
+    for (const auto& [locale, order] :
+         {std::pair("de_DE", u"O Ö Z"_s), {"sv_SE", u"O Z Ö"_s}, {"xx_nowhere", u"O Ö Z"_s}}) {
+        EXPECT_EQ(byOption(rows, SortOption::ssid, locale), order) << locale;
+    }
 }
 
-TEST(Ordering, ChannelAscendsAndSecurityIsByText)
+TEST(Ordering, ChannelAscendsAndSecurityIsByTextBelowTheCurrentOne)
 {
-    EXPECT_EQ(byOption({{u"a"_s, -50, false, 36}, {u"b"_s, -50, false, 6}, {u"c"_s, -50, true, 165}},
-                       SortOption::channel),
-              u"c b a"_s);
-    EXPECT_EQ(byOption({{u"a"_s, -50, false, 1, u"WPA2"_s}, {u"b"_s, -50, false, 1, u"None"_s}},
-                       SortOption::security),
-              u"b a"_s);
+    const QList<Row> rows{{u"a"_s, -50, false, 36, u"WPA2"_s},
+                          {u"b"_s, -50, false, 6, u"None"_s},
+                          {u"c"_s, -50, true, 165, u"WPA3"_s}};
+    EXPECT_EQ(byOption(rows, SortOption::channel), u"c b a"_s);
+    EXPECT_EQ(byOption(rows, SortOption::security), u"c b a"_s);
+    EXPECT_EQ(byOption(rows, SortOption::ssid), u"c a b"_s);
 }
 
 TEST(Ordering, LongAndOddNamesHaveKeys)

@@ -49,11 +49,6 @@ QString rssis(const SignalHistoryList& history)
     return texts.join(u' ');
 }
 
-QString rssisOf(const AccessPoints& points, const QString& bssid)
-{
-    return rssis(points.networkHistory.find(bssid).value());
-}
-
 } // namespace
 
 TEST(ScanMerge, MarksAMissedCycleAndKeepsTheLastSighting)
@@ -80,63 +75,38 @@ TEST(ScanMerge, MarksAMissedCycleAndKeepsTheLastSighting)
     EXPECT_EQ(rssis(before.allNetworks.find(u"aa"_s).value().signalHistory), u"-40"_s);
 }
 
-TEST(ScanMerge, CutsHistoriesFromTheFront)
+TEST(ScanMerge, DoesWhatAPlainModelDoesWhateverComes)
 {
-    Merger merger;
-    for (qint64 rssi = -1; rssi >= -22; --rssi) {
-        merger.cycle({network(u"aa"_s, u"A"_s, rssi)});
-    }
-    const AccessPoints& full = merger.cycle({});
-    EXPECT_EQ(rssisOf(full, u"aa"_s).left(5), u"-4 -5"_s);
-    EXPECT_EQ(full.networkHistory.find(u"aa"_s).value().size(), 20);
-
-    merger.limit = 3;
-    EXPECT_EQ(rssisOf(merger.cycle({network(u"aa"_s, u"A"_s, -7)}), u"aa"_s), u"-22 -100 -7"_s);
-    merger.limit = 4;
-    EXPECT_EQ(rssisOf(merger.cycle({}), u"aa"_s), u"-22 -100 -7 -100"_s);
-    for (const qint64 none : {qint64{0}, qint64{-5}}) {
-        merger.limit = none;
-        EXPECT_EQ(rssisOf(merger.cycle({network(u"aa"_s, u"A"_s, -7)}), u"aa"_s), u""_s);
-    }
-}
-
-TEST(ScanMerge, KeepsTheMapsInStepWhateverComes)
-{
-    // Compared with a plain model: one list of RSSI values for each access point.
+    // The model: one list of RSSI values for each access point, cut from the front.
     std::mt19937 random(7);
-    const auto chance = [&](unsigned outOf) { return random() % outOf == 0; };
+    const auto below = [&](unsigned end) { return static_cast<qint64>(random() % end); };
     Merger merger;
     std::map<QString, QStringList> expected;
     std::map<QString, qint64> last;
     for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE(round);
+        merger.limit = below(10) == 0 ? below(25) - 2 : merger.limit;
         QList<CWNetwork> results;
         std::map<QString, QStringList> heard;
-        for (int i = 0; i < 12; ++i) {
-            if (chance(2)) {
-                const QString bssid = QString::number(random() % 30);
-                const qint64 rssi = -static_cast<qint64>(random() % 90);
-                results.append(network(bssid, chance(6) ? u"Unknown"_s : u"N"_s, rssi));
-                if (results.last().ssid == u"N"_s) {
-                    heard[bssid].append(QString::number(rssi));
-                    last[bssid] = rssi;
-                }
+        for (qint64 i = below(12); i > 0; --i) {
+            const QString bssid = QString::number(below(30));
+            const qint64 rssi = -below(90);
+            const bool isNamed = below(6) != 0;
+            results.append(network(bssid, isNamed ? u"N"_s : u"Unknown"_s, rssi));
+            if (isNamed) {
+                heard[bssid].append(QString::number(rssi));
+                last[bssid] = rssi;
+                expected[bssid];
             }
-        }
-        for (auto& [bssid, samples] : expected) {
-            if (!heard.contains(bssid)) {
-                samples.append(u"-100"_s);
-            }
-        }
-        for (const auto& [bssid, samples] : heard) {
-            expected[bssid].append(samples);
         }
         const AccessPoints& points = merger.cycle(results);
         ASSERT_EQ(bssidsOf(points.allNetworks), bssidsOf(points.networkHistory));
         ASSERT_EQ(bssidsOf(points.allNetworks), bssidsOf(points.lastSeenTimestamp));
         ASSERT_EQ(points.allNetworks.size(), static_cast<qsizetype>(expected.size()));
         for (auto& [bssid, samples] : expected) {
-            samples = samples.last(std::min<qsizetype>(samples.size(), merger.limit));
-            ASSERT_EQ(rssisOf(points, bssid), samples.join(u' ')) << round;
+            samples += heard.contains(bssid) ? heard[bssid] : QStringList(u"-100"_s);
+            samples = samples.last(std::min<qsizetype>(samples.size(), std::max<qint64>(merger.limit, 0)));
+            ASSERT_EQ(rssis(points.networkHistory.find(bssid).value()), samples.join(u' '));
             const WiFiNetwork& record = points.allNetworks.find(bssid).value();
             ASSERT_EQ(rssis(record.signalHistory), samples.join(u' '));
             ASSERT_EQ(record.rssi, last[bssid]) << "of two sightings the last one";

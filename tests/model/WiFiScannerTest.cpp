@@ -18,6 +18,10 @@ namespace {
 
 using Status = CLAuthorizationStatus;
 
+class WiFiScannerTest : public testing::Test, public Engine
+{
+};
+
 /// Lets time pass and runs what the timer starts; says how many cycles that were.
 int cyclesWithin(Engine& engine, double seconds)
 {
@@ -77,130 +81,110 @@ TEST(WiFiScanner, StartsFiveSecondsAfterAccessIsGrantedAndKeepsTheInterval)
     EXPECT_EQ(cyclesWithin(engine, 11), 2);
 }
 
-TEST(WiFiScanner, ReplacesItsTimerAtEveryGrant)
+TEST_F(WiFiScannerTest, ReplacesItsTimerAtEveryGrant)
 {
-    Engine engine(Status::authorizedWhenInUse);
-    engine.location.change(Status::authorizedWhenInUse);
-    cyclesWithin(engine, 8);
-    engine.location.change(Status::authorizedAlways);
-    cyclesWithin(engine, 6);
-    EXPECT_EQ(engine.main.runningTimers(), 1U);
-    EXPECT_EQ(cyclesWithin(engine, 30), 3);
-}
-
-TEST(WiFiScanner, TakesOnlyUsableSettings)
-{
-    Engine engine;
+    location.change(Status::authorizedWhenInUse);
+    cyclesWithin(*this, 8);
+    location.change(Status::authorizedAlways);
+    cyclesWithin(*this, 6);
+    EXPECT_EQ(main.runningTimers(), 1U);
+    EXPECT_EQ(cyclesWithin(*this, 30), 3);
     for (const double useless : {0.0, -3.0, std::numeric_limits<double>::infinity()}) {
-        engine.defaults.setDouble(useless, SettingKeys::scanInterval);
-        EXPECT_EQ(engine.scanner->scanInterval(), 10.0);
+        defaults.setDouble(useless, SettingKeys::scanInterval);
+        EXPECT_EQ(scanner->scanInterval(), 10.0);
     }
-    engine.defaults.setDouble(0.5, SettingKeys::scanInterval);
-    EXPECT_EQ(engine.scanner->scanInterval(), 0.5);
 }
 
-TEST(WiFiScanner, WithdrawnAccessClearsTheSelectionAndNothingElse)
+TEST_F(WiFiScannerTest, WithdrawnAccessClearsTheSelectionAndNothingElse)
 {
-    Engine engine;
-    engine.location.change(Status::authorizedWhenInUse);
-    engine.cycle({network(u"aa"_s, u"A"_s)});
-    engine.selection.select(engine.scanner->networks().first());
-    engine.main.drain();
-    engine.log.take();
-    engine.location.change(Status::denied);
-    EXPECT_TRUE(engine.scanner->locationAccessDenied());
-    EXPECT_EQ(engine.log.take(), QStringList(u"Location access denied or restricted."_s));
-    EXPECT_TRUE(engine.selection.selectedBSSID()) << "the clear is posted";
-    engine.main.drain();
-    EXPECT_FALSE(engine.selection.selectedBSSID());
-    EXPECT_EQ(engine.listedBSSIDs(), QStringList(u"aa"_s));
-    EXPECT_GE(cyclesWithin(engine, 30), 2) << "the timer keeps running";
-    engine.location.change(Status::authorizedAlways);
-    EXPECT_FALSE(engine.scanner->locationAccessDenied());
-    engine.location.change(Status::notDetermined);
-    engine.location.change(static_cast<Status>(-1));
-    EXPECT_EQ(engine.log.take().last(2), QStringList({u"Location access not determined."_s,
-                                                      u"Unknown location authorization status."_s}));
+    location.change(Status::authorizedWhenInUse);
+    cycle({network(u"aa"_s, u"A"_s)});
+    selection.select(scanner->networks().first());
+    main.drain();
+    log.take();
+    location.change(Status::denied);
+    EXPECT_TRUE(scanner->locationAccessDenied());
+    EXPECT_EQ(log.take(), QStringList(u"Location access denied or restricted."_s));
+    EXPECT_TRUE(selection.selectedBSSID()) << "the clear is posted";
+    main.drain();
+    EXPECT_FALSE(selection.selectedBSSID());
+    EXPECT_EQ(listedBSSIDs(), QStringList(u"aa"_s));
+    EXPECT_GE(cyclesWithin(*this, 30), 2) << "the timer keeps running";
+    location.change(Status::authorizedAlways);
+    EXPECT_FALSE(scanner->locationAccessDenied());
 }
 
-TEST(WiFiScanner, TakesTheStepsOfACycleInOrder)
+TEST_F(WiFiScannerTest, TakesTheStepsOfACycleInOrder)
 {
-    Engine engine;
-    engine.log.take();
-    engine.wifi.air.ssid = u"Quay"_s;
-    engine.wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Unknown"_s)};
-    engine.scanner->scanNetworks();
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle) << "the status is posted";
-    engine.scanner->scanNetworks();
-    engine.main.drain();
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
-    EXPECT_EQ(engine.log.take(), QStringList(u"Starting network scan..."_s))
-        << "the second trigger does nothing";
+    log.take();
+    wifi.air.ssid = u"Quay"_s;
+    wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Unknown"_s)};
+    scanner->scanNetworks();
+    EXPECT_EQ(scanner->status(), ScannerStatus::idle) << "the status is posted";
+    scanner->scanNetworks();
+    main.drain();
+    EXPECT_EQ(scanner->status(), ScannerStatus::scanning);
+    EXPECT_EQ(log.take(), QStringList(u"Starting network scan..."_s)) << "the second trigger does nothing";
 
-    engine.scanTasks.runOne();
-    EXPECT_FALSE(engine.scanTasks.runOne());
-    EXPECT_EQ(engine.log.take(), QStringList({u"Current network: Quay"_s, u"Found 2 networks"_s}));
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
-    engine.main.runOne();
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle) << "before the list is published";
-    EXPECT_EQ(engine.log.take(), QStringList(u"Network scan completed"_s));
-    EXPECT_TRUE(engine.scanner->networks().isEmpty());
-    EXPECT_EQ(engine.scanner->allNetworks().size(), 1);
-    engine.main.drain();
-    EXPECT_EQ(engine.listedBSSIDs(), QStringList(u"aa"_s));
-    EXPECT_EQ(engine.scanTasks.label(), u"com.app.wifiscanner.scan"_s);
+    scanTasks.runOne();
+    EXPECT_FALSE(scanTasks.runOne());
+    EXPECT_EQ(log.take(), QStringList({u"Current network: Quay"_s, u"Found 2 networks"_s}));
+    EXPECT_EQ(scanner->status(), ScannerStatus::scanning);
+    main.runOne();
+    EXPECT_EQ(scanner->status(), ScannerStatus::idle) << "before the list is published";
+    EXPECT_EQ(log.take(), QStringList(u"Network scan completed"_s));
+    EXPECT_TRUE(scanner->networks().isEmpty());
+    EXPECT_EQ(scanner->allNetworks().size(), 1);
+    main.drain();
+    EXPECT_EQ(listedBSSIDs(), QStringList(u"aa"_s));
 }
 
-TEST(WiFiScanner, KeepsTheDataThroughAFailedScan)
+TEST_F(WiFiScannerTest, KeepsTheDataThroughAFailedScan)
 {
-    Engine engine;
-    engine.cycle({network(u"aa"_s, u"A"_s, -40)});
-    engine.log.take();
-    engine.wifi.air.scan = Error{u"The Wi-Fi radio is off"_s};
-    engine.runCycle();
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::error);
-    EXPECT_EQ(engine.scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s);
-    EXPECT_EQ(engine.log.take(), QStringList({u"Starting network scan..."_s, u"Current network: None"_s,
-                                              u"Scan failed: The Wi-Fi radio is off"_s}));
-    EXPECT_EQ(engine.scanner->networks().first().signalHistory.size(), 1) << "no sample for a failed cycle";
-    engine.cycle({});
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
-    EXPECT_EQ(engine.scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s) << "the status tells";
-    EXPECT_EQ(engine.scanner->networks().first().signalHistory.size(), 2);
+    cycle({network(u"aa"_s, u"A"_s, -40)});
+    log.take();
+    wifi.air.scan = Error{u"The Wi-Fi radio is off"_s};
+    runCycle();
+    EXPECT_EQ(scanner->status(), ScannerStatus::error);
+    EXPECT_EQ(scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s);
+    EXPECT_EQ(log.take(), QStringList({u"Starting network scan..."_s, u"Current network: None"_s,
+                                       u"Scan failed: The Wi-Fi radio is off"_s}));
+    EXPECT_EQ(scanner->networks().first().signalHistory.size(), 1) << "no sample for a failed cycle";
+    cycle({});
+    EXPECT_EQ(scanner->status(), ScannerStatus::idle);
+    EXPECT_EQ(scanner->error(), u"Scan failed: The Wi-Fi radio is off"_s) << "the status tells";
+    EXPECT_EQ(scanner->networks().first().signalHistory.size(), 2);
 }
 
-TEST(WiFiScanner, StaysScanningWithoutAnInterfaceAndTriesAgain)
+TEST_F(WiFiScannerTest, StaysScanningWithoutAnInterfaceAndTriesAgain)
 {
-    Engine engine;
-    QSignalSpy ended(&*engine.scanner, &WiFiScanner::scanCycleEnded);
-    engine.wifi.setPresent(false);
+    QSignalSpy ended(&*scanner, &WiFiScanner::scanCycleEnded);
+    wifi.setPresent(false);
     for (int i = 0; i < 2; ++i) {
-        engine.log.take();
-        engine.cycle({});
-        EXPECT_EQ(engine.log.take(),
-                  QStringList({u"Starting network scan..."_s, u"No WiFi interface found"_s}));
-        EXPECT_EQ(engine.scanner->status(), ScannerStatus::scanning);
+        log.take();
+        cycle({});
+        EXPECT_EQ(log.take(), QStringList({u"Starting network scan..."_s, u"No WiFi interface found"_s}));
+        EXPECT_EQ(scanner->status(), ScannerStatus::scanning);
         EXPECT_EQ(ended.count(), i + 1);
     }
-    EXPECT_FALSE(engine.scanner->findNetwork(u"A"_s));
-    engine.wifi.setPresent(true);
-    engine.cycle({network(u"aa"_s, u"A"_s)});
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+    EXPECT_FALSE(scanner->findNetwork(u"A"_s));
+    wifi.setPresent(true);
+    cycle({network(u"aa"_s, u"A"_s)});
+    EXPECT_EQ(scanner->status(), ScannerStatus::idle);
 }
 
-TEST(WiFiScanner, FindsANetworkByItsBytes)
+TEST_F(WiFiScannerTest, FindsANetworkByItsBytes)
 {
-    Engine engine;
-    engine.wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Caf\u00e9"_s)};
-    engine.log.take();
-    EXPECT_EQ(engine.scanner->findNetwork(u"Caf\u00e9"_s)->bssid, u"bb"_s);
-    EXPECT_EQ(engine.wifi.air.askedFor, QList<QByteArray>{"Caf\xc3\xa9"});
-    EXPECT_FALSE(engine.scanner->findNetwork(QByteArray("Caf\xe9")));
-    EXPECT_EQ(engine.log.take(), QStringList());
-    engine.wifi.air.scan = Error{u"Scan timed out"_s};
-    EXPECT_FALSE(engine.scanner->findNetwork(u"A"_s));
-    EXPECT_EQ(engine.log.take(), QStringList(u"Error finding network: Scan timed out"_s));
-    EXPECT_EQ(engine.scanner->status(), ScannerStatus::idle);
+    wifi.air.scan = QList<CWNetwork>{network(u"aa"_s, u"A"_s), network(u"bb"_s, u"Caf\u00e9"_s)};
+    log.take();
+    EXPECT_EQ(scanner->findNetwork(u"Caf\u00e9"_s)->bssid, u"bb"_s);
+    EXPECT_EQ(wifi.air.askedFor, QList<QByteArray>{"Caf\xc3\xa9"});
+    EXPECT_FALSE(scanner->findNetwork(QByteArray("Caf\xe9")));
+    EXPECT_EQ(log.take(), QStringList());
+    wifi.air.scan = Error{u"Scan timed out"_s};
+    EXPECT_FALSE(scanner->findNetwork(u"A"_s));
+    EXPECT_EQ(log.take(), QStringList(u"Error finding network: Scan timed out"_s));
+    EXPECT_EQ(scanner->status(), ScannerStatus::idle);
 }
 
 TEST(WiFiScanner, ForgetsACycleThatAClearOvertakes)
@@ -229,51 +213,30 @@ TEST(WiFiScanner, ForgetsACycleThatAClearOvertakes)
     }
 }
 
-TEST(WiFiScanner, KeepsTheMapsInStepWhenACycleMergesBeforeTheLastIsApplied)
+TEST_F(WiFiScannerTest, KeepsTheMapsInStepWhenACycleMergesBeforeTheLastIsApplied)
 {
-    Engine engine;
-    engine.cycle({network(u"aa"_s, u"A"_s)});
+    cycle({network(u"aa"_s, u"A"_s)});
     for (const auto& bssid : {u"bb"_s, u"cc"_s}) {
-        engine.wifi.air.scan = QList<CWNetwork>{network(bssid, u"B"_s)};
-        engine.scanner->scanNetworks();
-        engine.scanTasks.runOne();
+        wifi.air.scan = QList<CWNetwork>{network(bssid, u"B"_s)};
+        scanner->scanNetworks();
+        scanTasks.runOne();
     }
-    engine.main.drain();
-    expectMapsInStep(*engine.scanner);
-    engine.cycle({network(u"bb"_s, u"B"_s)});
-    expectMapsInStep(*engine.scanner);
-    for (const auto& [bssid, record] : engine.scanner->allNetworks()) {
-        EXPECT_EQ(record.signalHistory.size(), engine.scanner->networkHistory().find(bssid).value().size())
-            << bssid.toStdString();
+    main.drain();
+    expectMapsInStep(*scanner);
+    cycle({network(u"bb"_s, u"B"_s)});
+    expectMapsInStep(*scanner);
+    for (const auto& [bssid, record] : scanner->allNetworks()) {
+        EXPECT_EQ(record.signalHistory.size(), scanner->networkHistory().find(bssid).value().size());
     }
 }
 
-TEST(WiFiScanner, EndsWithWorkOnItsWay)
+TEST_F(WiFiScannerTest, EndsWithWorkOnItsWay)
 {
-    Engine engine;
-    engine.location.change(Status::authorizedWhenInUse);
-    engine.cycle({network(u"aa"_s, u"A"_s)});
-    engine.scanner->scanNetworks();
-    engine.scanTasks.runOne();
-    engine.scanner->clearNetworks();
-    engine.scanner.reset();
-    engine.main.advance(Seconds(60));
-    EXPECT_EQ(engine.main.runningTimers(), 0U);
-}
-
-TEST(WiFiScanner, NotifiesAlsoOfEqualValues)
-{
-    Engine engine;
-    QSignalSpy status(&*engine.scanner, &WiFiScanner::statusChanged);
-    QSignalSpy networks(&*engine.scanner, &WiFiScanner::networksChanged);
-    QSignalSpy selected(&engine.selection, &SelectionStore::selectedBSSIDChanged);
-    engine.cycle({});
-    engine.cycle({});
-    EXPECT_EQ(status.count(), 4);
-    EXPECT_EQ(networks.count(), 2);
-    engine.selection.clearSelection();
-    engine.selection.clearSelection();
-    EXPECT_EQ(selected.count(), 0);
-    engine.main.drain();
-    EXPECT_EQ(selected.count(), 2);
+    location.change(Status::authorizedWhenInUse);
+    scanner->scanNetworks();
+    scanTasks.runOne();
+    scanner->clearNetworks();
+    scanner.reset();
+    main.advance(Seconds(60));
+    EXPECT_EQ(main.runningTimers(), 0U);
 }

@@ -15,10 +15,7 @@ class ManualSerialTasks
 public:
     [[nodiscard]] MakeSerialQueue factory()
     {
-        return [this](const QString& label) {
-            m_label = label;
-            return std::make_unique<Queue>(m_tasks);
-        };
+        return [this](const QString&) { return std::make_unique<Queue>(m_tasks); };
     }
 
     bool runOne()
@@ -31,8 +28,6 @@ public:
         task();
         return true;
     }
-
-    [[nodiscard]] const QString& label() const { return m_label; }
 
 private:
     using Tasks = std::deque<Task>;
@@ -51,7 +46,6 @@ private:
     };
 
     std::shared_ptr<Tasks> m_tasks = std::make_shared<Tasks>();
-    QString m_label;
 };
 
 } // namespace aerolith
