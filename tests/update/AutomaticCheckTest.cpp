@@ -65,14 +65,11 @@ TEST_F(AutomaticCheckTest, AreOffUntilTheUserWantsThem)
     main.advance(50 * hour);
     EXPECT_TRUE(hasChecked(1));
 
-    defaults.setInteger(1, SettingKeys::automaticUpdateChecks);
     runningVersion = u"unknown"_s;
-    makeUpdater();
-    updater->start();
+    startLater({});
     EXPECT_EQ(main.runningTimers(), 0U) << "there is nothing to compare with";
     feed.reset();
-    makeUpdater();
-    updater->start();
+    startLater({});
     EXPECT_EQ(main.runningTimers(), 0U) << "there is nothing to check";
 }
 

@@ -36,12 +36,8 @@ protected:
     {
         server.answer(filePath, answer, behind);
         download();
-        const auto* failed = std::get_if<UpdateFailed>(&updater->state());
         EXPECT_EQ(files(), QStringList()) << "nothing is left behind";
-        if (failed == nullptr || failed->step != UpdateFailed::Step::download) {
-            return u"none"_s;
-        }
-        return failed->error.description;
+        return failureOf(UpdateFailed::Step::download);
     }
 
     static QByteArray answerWith(const QByteArray& body, qsizetype length)
@@ -99,18 +95,15 @@ TEST_F(DownloadTest, KeepsNothingElse)
     forged[size / 2] = '?';
     const auto wrongSignature =
         u"The file's signature is wrong: it does not come from the makers of Aerolith"_s;
+    const auto tooLong = u"The file is longer than the %1 bytes that it should have"_s.arg(size);
     EXPECT_EQ(refusal(answerWith(forged, size)), wrongSignature);
-    EXPECT_EQ(refusal(answerWith(program + "!", size + 1)),
-              u"The file is longer than the %1 bytes that it should have"_s.arg(size));
-    EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\n\r\n" + program + "!", Behind::trickle),
-              u"The file is longer than the %1 bytes that it should have"_s.arg(size));
+    EXPECT_EQ(refusal(answerWith(program + "!", size + 1)), tooLong);
+    EXPECT_EQ(refusal("HTTP/1.1 200 OK\r\n\r\n" + program + "!", Behind::trickle), tooLong);
     EXPECT_EQ(refusal(answerWith(program.chopped(1), size - 1)),
               u"The file has %1 bytes in place of the %2 that it should have"_s.arg(size - 1).arg(size));
     const QString cut = refusal(answerWith(program.first(500'000), size));
     EXPECT_TRUE(cut.startsWith(u"The connection to localhost ended after "_s) && cut.contains(u" bytes: "_s))
         << cut.toStdString();
-    EXPECT_EQ(refusal("HTTP/1.1 301 Moved\r\nLocation: http://localhost/1.1.bin\r\n\r\n"),
-              u"localhost redirects to an address that is not https: http://localhost/1.1.bin"_s);
     EXPECT_EQ(refusal("HTTP/1.1 403 No\r\n\r\n"), u"localhost answered with the HTTP status 403"_s);
 
     const QByteArray good = answerWith(program, size);
@@ -148,26 +141,23 @@ TEST_F(DownloadTest, SaysWhereNothingCanBeSaved)
     server.serve(filePath, program);
     putFile(downloads, "a file in its place");
     download();
-    ASSERT_TRUE(isIn<UpdateFailed>());
-    EXPECT_EQ(std::get<UpdateFailed>(updater->state()).error.description,
-              u"The folder %1 cannot be made"_s.arg(downloads));
+    EXPECT_EQ(failureOf(UpdateFailed::Step::download), u"The folder %1 cannot be made"_s.arg(downloads));
 }
 
 TEST(DownloadName, IsAPlainName)
 {
     const QList<std::pair<QString, QString>> cases{
-        {u"https://example.org/a/aerolith_1.2-1_amd64.deb?x=/y#z"_s, u"aerolith_1.2-1_amd64.deb"_s},
-        {u"https://example.org/My%20File%20(2).tar.gz"_s, u"My File (2).tar.gz"_s},
-        {u"https://example.org/..%2F..%2F.bashrc"_s, u"bashrc"_s},
-        {u"https://example.org/.."_s, u"download"_s},
-        {u"https://example.org/"_s, u"download"_s},
-        {u"https://example.org"_s, u"download"_s},
-        {u"https://example.org/--rf%0A%00%1B[2J$(x)%E2%80%AEgpj.deb"_s, u"rf2J(x)gpj.deb"_s},
-        {u"https://example.org/%E6%BC%A2%E5%AD%97.deb"_s, u"漢字.deb"_s},
-        {u"https://example.org/"_s + u"long"_s.repeated(100) + u".deb"_s, u"long"_s.repeated(19) + u".deb"_s},
+        {u"a/aerolith_1.2-1_amd64.deb?x=/y#z"_s, u"aerolith_1.2-1_amd64.deb"_s},
+        {u"My%20File%20(2).tar.gz"_s, u"My File (2).tar.gz"_s},
+        {u"..%2F..%2F.bashrc"_s, u"bashrc"_s},
+        {u".."_s, u"download"_s},
+        {u""_s, u"download"_s},
+        {u"--rf%0A%00%1B[2J$(x)%E2%80%AEgpj.deb"_s, u"rf2J(x)gpj.deb"_s},
+        {u"%E6%BC%A2%E5%AD%97.deb"_s, u"漢字.deb"_s},
+        {u"long"_s.repeated(100) + u".deb"_s, u"long"_s.repeated(19) + u".deb"_s},
     };
-    for (const auto& [url, name] : cases) {
-        EXPECT_EQ(downloadName(QUrl(url)), name) << url.toStdString();
+    for (const auto& [path, name] : cases) {
+        EXPECT_EQ(downloadName(QUrl(u"https://example.org/"_s + path)), name) << path.toStdString();
     }
 }
 

@@ -18,43 +18,32 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Made anew for each run, and gone with it.
-struct Certificates
+struct Certificate
 {
-    Certificates()
+    Certificate()
     {
-        make(u"ca"_s, {u"-subj"_s, u"/CN=Test authority"_s});
-        make(u"server"_s, {u"-subj"_s, u"/CN=localhost"_s, u"-CA"_s, u"ca.pem"_s, u"-CAkey"_s, u"ca.key"_s,
-                           u"-addext"_s, u"subjectAltName=DNS:localhost"_s});
-        authority = QSslCertificate(read(u"ca.pem"_s));
-        server = QSslCertificate(read(u"server.pem"_s));
-        serverKey = QSslKey(read(u"server.key"_s), QSsl::Ec);
-        EXPECT_FALSE(authority.isNull() || server.isNull() || serverKey.isNull());
-    }
-
-    void make(const QString& name, const QStringList& more)
-    {
+        const QTemporaryDir folder;
         QProcess openssl;
         openssl.setWorkingDirectory(folder.path());
         openssl.start(u"openssl"_s,
-                      QStringList{u"req"_s, u"-x509"_s, u"-newkey"_s, u"ec"_s, u"-pkeyopt"_s,
-                                  u"ec_paramgen_curve:prime256v1"_s, u"-nodes"_s, u"-days"_s, u"2"_s,
-                                  u"-keyout"_s, name + ".key"_L1, u"-out"_s, name + ".pem"_L1} +
-                          more);
+                      {u"req"_s, u"-x509"_s, u"-newkey"_s, u"ec"_s, u"-pkeyopt"_s,
+                       u"ec_paramgen_curve:prime256v1"_s, u"-nodes"_s, u"-days"_s, u"2"_s, u"-subj"_s,
+                       u"/CN=localhost"_s, u"-addext"_s, u"subjectAltName=DNS:localhost"_s, u"-keyout"_s,
+                       u"key"_s, u"-out"_s, u"certificate"_s});
         EXPECT_TRUE(openssl.waitForFinished() && openssl.exitCode() == 0)
             << openssl.readAllStandardError().toStdString();
+        open = QSslCertificate(bytesIn(folder.filePath(u"certificate"_s)));
+        key = QSslKey(bytesIn(folder.filePath(u"key"_s)), QSsl::Ec);
+        EXPECT_FALSE(open.isNull() || key.isNull());
     }
 
-    [[nodiscard]] QByteArray read(const QString& name) const { return bytesIn(folder.filePath(name)); }
-
-    QTemporaryDir folder;
-    QSslCertificate authority;
-    QSslCertificate server;
-    QSslKey serverKey;
+    QSslCertificate open;
+    QSslKey key;
 };
 
-const Certificates& certificates()
+const Certificate& certificate()
 {
-    static const Certificates made;
+    static const Certificate made;
     return made;
 }
 
@@ -65,23 +54,13 @@ void trickle(QTcpSocket& socket)
     timer->start(std::chrono::milliseconds(20));
 }
 
-void sendLate(QTcpSocket& socket, const QByteArray& bytes)
-{
-    const auto head = bytes.indexOf("\r\n\r\n") + 4;
-    QTimer::singleShot(1'000, &socket, [&socket, bytes, head] { socket.write(bytes.left(head)); });
-    QTimer::singleShot(2'000, &socket, [&socket, bytes, head] {
-        socket.write(bytes.mid(head));
-        socket.disconnectFromHost();
-    });
-}
-
 } // namespace
 
 HttpsServer::HttpsServer()
 {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.setLocalCertificate(certificates().server);
-    configuration.setPrivateKey(certificates().serverKey);
+    configuration.setLocalCertificate(certificate().open);
+    configuration.setPrivateKey(certificate().key);
     m_server.setSslConfiguration(configuration);
     QObject::connect(&m_server, &QTcpServer::pendingConnectionAvailable, &m_server, [this] {
         QTcpSocket* socket = m_server.nextPendingConnection();
@@ -100,7 +79,7 @@ QUrl HttpsServer::url(const QString& path) const
 QSslConfiguration HttpsServer::trusting()
 {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.setCaCertificates({certificates().authority});
+    configuration.setCaCertificates({certificate().open});
     return configuration;
 }
 
@@ -124,10 +103,6 @@ void HttpsServer::handle(QTcpSocket& socket)
     const QByteArray path = received.split(' ').value(1);
     const auto [bytes, behind] =
         m_answers.value(path, {"HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n", Behind::close});
-    if (behind == Behind::late) {
-        sendLate(socket, bytes);
-        return;
-    }
     socket.write(bytes);
     if (behind == Behind::close) {
         socket.disconnectFromHost();

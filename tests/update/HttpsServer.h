@@ -9,8 +9,8 @@
 
 namespace aerolith {
 
-/// A web server on this machine that gives the answers the test has written, byte by byte, and believes in an
-/// authority of its own. It runs in the test's event loop.
+/// A web server on this machine that gives the answers the test has written, byte by byte, with a certificate
+/// of its own. It runs in the test's event loop.
 class HttpsServer
 {
 public:
@@ -20,9 +20,7 @@ public:
         /// The connection stays open, and nothing more comes.
         silence,
         /// A byte comes now and then, and never the last.
-        trickle,
-        /// It closes in the end, but the head comes after a second, and the body after another.
-        late
+        trickle
     };
 
     HttpsServer();

@@ -77,6 +77,13 @@ public:
         settle();
     }
 
+    /// Why this step has failed.
+    [[nodiscard]] QString failureOf(UpdateFailed::Step step) const
+    {
+        const auto* failed = std::get_if<UpdateFailed>(&updater->state());
+        return failed != nullptr && failed->step == step ? failed->error.description : QString();
+    }
+
     const QString feedPath = QStringLiteral("/feed.xml");
     HttpsServer server;
     /// Absent: the program was built without one.
