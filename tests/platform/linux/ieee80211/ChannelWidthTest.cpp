@@ -29,65 +29,58 @@ QByteArray vhtOperation(int width, int segment0, int segment1)
                             hex("fcff"));
 }
 
-CWChannelWidth width(const QByteArray& frame)
+QByteArray he(const char* body)
 {
-    const test::TightBytes tight(frame);
-    return channelWidth(tight.bytes());
+    return htOperation(5) + extensionElement(36, hex(body));
 }
 
-const QByteArray ht40 = htOperation(5);
-
-TEST(ChannelWidth, OfHtNeedsASecondHalfInUse)
+/// Beside an HE operation element that says 160 MHz.
+QByteArray eht(const char* body)
 {
-    EXPECT_EQ(width({}), CWChannelWidth::mhz20);
-    for (const int narrow : {0, 1, 4, 6}) {
-        EXPECT_EQ(width(htOperation(narrow)), CWChannelWidth::mhz20) << narrow;
+    return he("00000200fcff2503070f00") + extensionElement(106, hex(body));
+}
+
+// The plain cases are among the captured ones.
+TEST(ChannelWidth, IsWhatTheNewestOperationElementThatIsWholeSays)
+{
+    using enum CWChannelWidth;
+    const QByteArray ht40 = htOperation(5);
+    const std::pair<QByteArray, CWChannelWidth> cases[] = {
+        {{}, mhz20},
+        // 40 MHz needs a second half, above or below, that is in use.
+        {htOperation(4), mhz20},
+        {htOperation(6), mhz20},
+        {htOperation(7), mhz40},
+        {element(61, hex("2405")), mhz20},
+        // Old and new ways to say 160 MHz.
+        {ht40 + vhtOperation(0, 0, 0), mhz40},
+        {ht40 + vhtOperation(1, 58, 50), mhz160},
+        {ht40 + vhtOperation(1, 155, 42), mhz160},
+        {ht40 + vhtOperation(1, 42, 46), mhz80},
+        {ht40 + vhtOperation(2, 50, 0), mhz160},
+        {ht40 + vhtOperation(3, 42, 155), mhz160},
+        {ht40 + vhtOperation(9, 42, 50), mhz40},
+        {htOperation(5, 50) + vhtOperation(1, 42, 0), mhz160},
+        {htOperation(5, 155) + vhtOperation(1, 42, 0), mhz160},
+        // Parameters (bit 14 VHT, bit 15 co-hosted, bit 17 6 GHz), colour, rates; then the optional fields.
+        {he("00000000fcff"), mhz40},
+        {he("00400000fcff012a00"), mhz80},
+        {vhtOperation(0, 0, 0) + he("00400000fcff012a00"), mhz40}, // the VHT element itself comes first
+        {he("00000200fcff2500070f00"), mhz20},
+        {he("00c00200fcff012a0055250307000f"), mhz160},
+        {he("00c00200fcff012a00552503070f"), mhz80}, // the 6 GHz field is cut short
+        {he("00000200fc"), mhz40},
+        // EHT wins where its information is whole and defined.
+        {eht("0111111111041f3f"), unknown},
+        {eht("0311111111022a000300"), mhz80},
+        {eht("0011111111022a00"), mhz160},
+        {eht("0111111111062a00"), mhz160},
+        {eht("011111111102"), mhz160},
+    };
+    for (const auto& [frame, width] : cases) {
+        const test::TightBytes tight(frame);
+        EXPECT_EQ(channelWidth(tight.bytes()), width) << frame.toHex().constData();
     }
-    EXPECT_EQ(width(htOperation(5)), CWChannelWidth::mhz40);
-    EXPECT_EQ(width(htOperation(7)), CWChannelWidth::mhz40);
-    EXPECT_EQ(width(element(61, hex("2405"))), CWChannelWidth::mhz20);
-}
-
-TEST(ChannelWidth, OfVhtReadsOldAndNewWaysToSay160)
-{
-    EXPECT_EQ(width(ht40 + vhtOperation(0, 0, 0)), CWChannelWidth::mhz40);
-    EXPECT_EQ(width(ht40 + vhtOperation(1, 42, 0)), CWChannelWidth::mhz80);
-    EXPECT_EQ(width(ht40 + vhtOperation(1, 42, 50)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(ht40 + vhtOperation(1, 58, 50)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(ht40 + vhtOperation(1, 155, 42)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(ht40 + vhtOperation(1, 42, 46)), CWChannelWidth::mhz80);
-    EXPECT_EQ(width(ht40 + vhtOperation(2, 50, 0)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(ht40 + vhtOperation(3, 42, 155)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(ht40 + vhtOperation(9, 42, 50)), CWChannelWidth::mhz40);
-    EXPECT_EQ(width(htOperation(5, 50) + vhtOperation(1, 42, 0)), CWChannelWidth::mhz160);
-    EXPECT_EQ(width(htOperation(5, 155) + vhtOperation(1, 42, 0)), CWChannelWidth::mhz160);
-}
-
-TEST(ChannelWidth, OfHeIsBehindItsOtherOptionalFields)
-{
-    // Parameters (bit 14 VHT, bit 15 co-hosted, bit 17 6 GHz), colour, rates; then the fields.
-    const auto he = [](const char* body) { return width(ht40 + extensionElement(36, hex(body))); };
-    EXPECT_EQ(he("00000000fcff"), CWChannelWidth::mhz40);
-    EXPECT_EQ(he("00400000fcff012a00"), CWChannelWidth::mhz80);
-    EXPECT_EQ(he("00000200fcff2500070f00"), CWChannelWidth::mhz20);
-    EXPECT_EQ(he("00000200fcff2502070000"), CWChannelWidth::mhz80);
-    EXPECT_EQ(he("00c00200fcff012a0055250307000f"), CWChannelWidth::mhz160);
-    EXPECT_EQ(he("00c00200fcff012a00552503070f"), CWChannelWidth::mhz80) << "the 6 GHz field is cut short";
-    EXPECT_EQ(he("00000200fc"), CWChannelWidth::mhz40) << "the element is cut short";
-    EXPECT_EQ(width(vhtOperation(0, 0, 0) + extensionElement(36, hex("00400000fcff012a00"))),
-              CWChannelWidth::mhz20)
-        << "the VHT operation element itself comes first";
-}
-
-TEST(ChannelWidth, OfEhtWinsAndIsUnknownBeyond160)
-{
-    const QByteArray he160 = extensionElement(36, hex("00000200fcff2503070f00"));
-    const auto eht = [&he160](const char* body) { return width(he160 + extensionElement(106, hex(body))); };
-    EXPECT_EQ(eht("0111111111041f3f"), CWChannelWidth::unknown);
-    EXPECT_EQ(eht("0311111111022a000300"), CWChannelWidth::mhz80);
-    EXPECT_EQ(eht("0011111111022a00"), CWChannelWidth::mhz160) << "without operation information";
-    EXPECT_EQ(eht("0111111111062a00"), CWChannelWidth::mhz160) << "a width not yet defined";
-    EXPECT_EQ(eht("011111111102"), CWChannelWidth::mhz160) << "cut short";
 }
 
 } // namespace

