@@ -1,6 +1,5 @@
 #include "platform/linux/AwaitScan.h"
 
-#include "platform/linux/LastScanEvents.h"
 #include "platform/linux/StoppableScanEvents.h"
 
 #include <gmock/gmock.h>
@@ -26,7 +25,7 @@ struct FakeService : ScanService
     Failure request(const std::optional<QByteArray>& ssid) override
     {
         requests.push_back(ssid);
-        return refusal;
+        return {};
     }
 
     std::optional<BootTime> lastScan() override
@@ -39,7 +38,6 @@ struct FakeService : ScanService
     }
 
     Failure standing;
-    Failure refusal;
     /// Answers in turn; the last one stays.
     std::deque<std::optional<BootTime>> lastScans{std::nullopt};
     std::vector<std::optional<QByteArray>> requests;
@@ -196,14 +194,9 @@ TEST_F(AwaitScanTest, whereNoScanComesTheNewestHasToDo)
     EXPECT_EQ(m_error, u"The Wi-Fi interface wlan0 is gone"_s);
 }
 
-TEST_F(AwaitScanTest, aRefusalOrLostEventsEndTheWait)
+TEST_F(AwaitScanTest, lostEventsEndTheWait)
 {
     ScriptedEvents events({started, finished});
-    m_service.refusal = Error{u"refused"_s};
-    EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).error().description, u"refused"_s);
-    EXPECT_TRUE(events.deadlines.empty());
-
-    m_service.refusal.reset();
     events.failure = Error{u"lost"_s};
     EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).error().description, u"lost"_s);
 }
@@ -225,14 +218,6 @@ TEST_F(AwaitScanTest, aStartGivesMoreTimeButOnlyOnce)
     ASSERT_EQ(events.deadlines.size(), 4U);
     EXPECT_EQ(events.deadlines[1] - events.deadlines[0], 15s);
     EXPECT_EQ(events.deadlines[3], events.deadlines[1]);
-}
-
-TEST_F(AwaitScanTest, withoutEventsANewLastScanIsTheSign)
-{
-    m_service.lastScans = {begun - 5s, begun - 5s, begun + 2s};
-    LastScanEvents events(m_service, 0ms);
-    EXPECT_EQ(awaitScan(m_service, events, {begun}, {}, {}).value(), begun);
-    EXPECT_EQ(events.wait({}).value(), std::nullopt) << "nothing new before the deadline";
 }
 
 } // namespace

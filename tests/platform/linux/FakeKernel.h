@@ -24,7 +24,10 @@ public:
 
     [[nodiscard]] Result<QList<nl80211::InterfaceInfo>> interfaces() override;
 
-    [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t) override { return channels; }
+    [[nodiscard]] Result<QList<CWChannel>> supportedChannels(std::uint32_t) override
+    {
+        return QList<CWChannel>();
+    }
 
     [[nodiscard]] Result<QList<nl80211::BssEntry>> bssEntries(std::uint32_t) override { return entries; }
 
@@ -38,7 +41,6 @@ public:
 
     QList<nl80211::InterfaceInfo> interfaceList;
     std::optional<Error> failure;
-    QList<CWChannel> channels;
     QList<nl80211::BssEntry> entries;
     /// What a scan without NetworkManager comes to: the error, or events told at once.
     std::optional<Error> triggerRefusal;

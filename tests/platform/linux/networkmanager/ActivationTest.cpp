@@ -81,7 +81,6 @@ TEST_F(ActivationTest, endsWithTheActiveConnection)
 
     const auto call = m_fake->calls(u"AddAndActivateConnection2"_s).last();
     EXPECT_EQ(call.arguments().at(1).value<QDBusObjectPath>().path(), FakeNetworkManager::devicePath);
-    EXPECT_EQ(call.arguments().at(2).value<QDBusObjectPath>().path(), FakeNetworkManager::accessPointPath);
     EXPECT_EQ(qdbus_cast<QVariantMap>(call.arguments().at(3))[u"persist"_s], u"volatile"_s);
     EXPECT_TRUE(call.isInteractiveAuthorizationAllowed());
 }

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto managerPath = u"/org/freedesktop/NetworkManager"_s;
 const auto managerInterface = u"org.freedesktop.NetworkManager"_s;
 
 // "Get Wireless.LastScan" for a property's call, else the method's name.
@@ -28,6 +27,16 @@ QString nameOf(const QDBusMessage& call)
     const auto interface = call.arguments().value(0).toString();
     return u"%1 %2.%3"_s.arg(call.member(), interface.section(u'.', -1),
                              call.arguments().value(1).toString());
+}
+
+QDBusMessage accept(const QDBusMessage& call)
+{
+    return call.createReply();
+}
+
+FakeNetworkManager::Reaction permission(const QString& toScan)
+{
+    return reply(QVariant::fromValue(PermissionMap{{u"org.freedesktop.NetworkManager.wifi.scan"_s, toScan}}));
 }
 
 } // namespace
@@ -47,8 +56,11 @@ FakeNetworkManager::FakeNetworkManager(const QString& busAddress)
                    {u"Device.AvailableConnections"_s, QVariant::fromValue(QList<QDBusObjectPath>())},
                    {u"AccessPoint.HwAddress"_s, u"02:00:00:00:07:00"_s},
                    {u"AccessPoint.Ssid"_s, "home"_ba}}
-    , m_permissions{{u"org.freedesktop.NetworkManager.wifi.scan"_s, u"yes"_s},
-                    {u"org.freedesktop.NetworkManager.enable-disable-wifi"_s, u"no"_s}}
+    , m_reactions{{u"GetPermissions"_s, permission(u"yes"_s)},
+                  {u"GetDevices"_s, reply(QVariant::fromValue(QList{QDBusObjectPath(devicePath)}))},
+                  {u"Update2"_s, reply(QVariantMap())},
+                  {u"Register"_s, accept},
+                  {u"DeactivateConnection"_s, accept}}
 {
     registerDBusTypes();
     moveToThread(&m_thread);
@@ -82,18 +94,15 @@ void FakeNetworkManager::leaveBus()
     QDBusConnection::disconnectFromBus(m_connectionName);
 }
 
-void FakeNetworkManager::setScanPermission(const QString& permission)
+void FakeNetworkManager::setScanPermission(const QString& toScan)
 {
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_permissions[u"org.freedesktop.NetworkManager.wifi.scan"_s] = permission;
-    }
+    on(u"GetPermissions"_s, permission(toScan));
     tell(u"/org/freedesktop/PolicyKit1/Authority"_s, u"org.freedesktop.PolicyKit1.Authority"_s, u"Changed"_s);
 }
 
 void FakeNetworkManager::emitCheckPermissions()
 {
-    tell(managerPath, managerInterface, u"CheckPermissions"_s);
+    tell(u"/org/freedesktop/NetworkManager"_s, managerInterface, u"CheckPermissions"_s);
 }
 
 void FakeNetworkManager::setActivation(const QList<DeviceStateReason>& states, quint32 activeState)
@@ -180,11 +189,6 @@ QList<QDBusMessage> FakeNetworkManager::calls(const QString& member) const
     return found;
 }
 
-QString FakeNetworkManager::introspect(const QString&) const
-{
-    return {};
-}
-
 bool FakeNetworkManager::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)
 {
     const auto answered = answer(nameOf(message), message);
@@ -225,12 +229,6 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
         m_properties[property] = call.arguments().at(2).value<QDBusVariant>().variant();
         return call.createReply();
     }
-    if (member == u"GetPermissions"_s) {
-        return call.createReply(QVariant::fromValue(m_permissions));
-    }
-    if (member == u"GetDevices"_s) {
-        return call.createReply(QVariant::fromValue(QList{QDBusObjectPath(devicePath)}));
-    }
     if (member == u"GetManagedObjects"_s) {
         ManagedObjects objects;
         addDevice(objects, devicePath, {accessPointPath});
@@ -241,8 +239,7 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
     if (member == u"GetDeviceByIpIface"_s) {
         return call.arguments().value(0) == u"wlan0"_s
                    ? call.createReply(QVariant::fromValue(QDBusObjectPath(devicePath)))
-                   : call.createErrorReply(u"org.freedesktop.NetworkManager.UnknownDevice"_s,
-                                           u"No device found for the requested iface."_s);
+                   : call.createErrorReply(u"org.freedesktop.NetworkManager.UnknownDevice"_s, member);
     }
     if (member == u"AddAndActivateConnection2"_s || member == u"ActivateConnection"_s) {
         // After the answer.
@@ -254,11 +251,7 @@ QDBusMessage FakeNetworkManager::usualAnswer(const QString& member, const QDBusM
                    : call.createReply(
                          {QVariant::fromValue(QDBusObjectPath(newProfilePath)), active, QVariantMap()});
     }
-    if (member == u"Update2"_s) {
-        return call.createReply(QVariantMap());
-    }
-    if (member == u"Register"_s || member == u"DeactivateConnection"_s ||
-        (member == u"RequestScan"_s && call.path() == devicePath)) {
+    if (member == u"RequestScan"_s && call.path() == devicePath) {
         return call.createReply();
     }
     return call.createErrorReply(QDBusError::UnknownMethod, member);

@@ -38,7 +38,7 @@ public:
     void end();
 
     /// The permission to scan; the bus is told by polkit, in whose name the fake stands there too.
-    void setScanPermission(const QString& permission);
+    void setScanPermission(const QString& toScan);
     /// NetworkManager's own word that permissions may have changed.
     void emitCheckPermissions();
 
@@ -66,7 +66,8 @@ public:
     /// Calls of that name so far, as on() names them.
     [[nodiscard]] QList<QDBusMessage> calls(const QString& member) const;
 
-    [[nodiscard]] QString introspect(const QString& path) const override;
+    [[nodiscard]] QString introspect(const QString&) const override { return {}; }
+
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 private:
@@ -80,7 +81,6 @@ private:
     const QString m_connectionName;
     mutable QMutex m_mutex;
     QMap<QString, QVariant> m_properties;
-    QMap<QString, QString> m_permissions;
     QHash<QString, Reaction> m_reactions;
     std::function<void(const QString&)> m_beforeEach;
     QList<std::pair<QString, QDBusMessage>> m_calls;

@@ -35,9 +35,7 @@ const auto& wlan0 = FakeNetworkManager::devicePath;
 
 TEST_F(NetworkManagerTest, tellsAbsentFromFailed)
 {
-    const auto unknownDevice = m_manager.device(u"wlan9"_s);
-    ASSERT_TRUE(unknownDevice.ok());
-    EXPECT_FALSE(unknownDevice.value());
+    EXPECT_FALSE(m_manager.device(u"wlan9"_s).value());
     EXPECT_EQ(m_manager.activeAccessPointAddress(wlan0).value(), std::nullopt);
     EXPECT_EQ(m_manager.lastScan(wlan0).value(), std::nullopt);
     m_fake.setProperty(u"Wireless.LastScan"_s, qlonglong{5'000'000'000});
@@ -69,15 +67,10 @@ TEST_F(NetworkManagerTest, findsTheAccessPointOfTheDeviceInOneCall)
 TEST_F(NetworkManagerTest, passesEveryByteOfAName)
 {
     const auto name = "caf\xc3\xa9\0\xff"_ba;
-    EXPECT_FALSE(m_manager.requestScan(wlan0, {}));
     EXPECT_FALSE(m_manager.requestScan(wlan0, name));
-
-    const auto calls = m_fake.calls(u"RequestScan"_s);
-    ASSERT_EQ(calls.size(), 2);
-    EXPECT_TRUE(qdbus_cast<QVariantMap>(calls[0].arguments().at(0)).isEmpty());
-    const auto ssids = qdbus_cast<QVariantMap>(calls[1].arguments().at(0)).value(u"ssids"_s);
-    EXPECT_EQ(ssids.value<QDBusArgument>().currentSignature(), u"aay"_s);
-    EXPECT_EQ(qdbus_cast<QList<QByteArray>>(ssids), QList<QByteArray>{name});
+    const auto options = qdbus_cast<QVariantMap>(m_fake.calls(u"RequestScan"_s).first().arguments().at(0));
+    EXPECT_EQ(options[u"ssids"_s].value<QDBusArgument>().currentSignature(), u"aay"_s);
+    EXPECT_EQ(qdbus_cast<QList<QByteArray>>(options[u"ssids"_s]), QList<QByteArray>{name});
 }
 
 TEST_F(NetworkManagerTest, waitsUntilTheRadioHasSwitched)
@@ -95,29 +88,22 @@ TEST_F(NetworkManagerTest, waitsUntilTheRadioHasSwitched)
     EXPECT_FALSE(NetworkManager(m_bus.address(), stopped).setWirelessEnabled(false));
     EXPECT_TRUE(repainted) << "the thread's events are handled meanwhile";
     EXPECT_EQ(reads, 3);
-    const auto set = m_fake.calls(u"Set "_s + property);
-    ASSERT_EQ(set.size(), 1);
-    EXPECT_EQ(set[0].arguments().at(2).value<QDBusVariant>().variant(), QVariant(false));
 }
 
 TEST_F(NetworkManagerTest, aWrongTypeIsAnError)
 {
-    const auto expectWrongType = [](const auto& result) {
-        ASSERT_FALSE(result.ok());
-        const auto description = result.error().description;
-        EXPECT_TRUE(description.contains(u"wrong type"_s)) << description.toStdString();
-    };
-    for (const auto& wrong :
+    const auto wrong = u"NetworkManager gave an answer of a wrong type"_s;
+    for (const auto& answer :
          {QVariant(u"text"_s), QVariant(1.5), QVariant::fromValue(QList<QByteArray>{"x"_ba})}) {
-        m_fake.on(u"GetDeviceByIpIface"_s, reply(wrong));
-        expectWrongType(m_manager.device(u"wlan0"_s));
-        m_fake.setProperty(u"NetworkManager.WirelessEnabled"_s, wrong);
-        expectWrongType(m_manager.radioSwitches());
+        m_fake.on(u"GetDeviceByIpIface"_s, reply(answer));
+        EXPECT_TRUE(m_manager.device(u"wlan0"_s).error().description.startsWith(wrong));
+        m_fake.setProperty(u"NetworkManager.WirelessEnabled"_s, answer);
+        EXPECT_TRUE(m_manager.radioSwitches().error().description.startsWith(wrong));
     }
-    const auto replyWithNothing = [](const QDBusMessage& call) { return call.createReply(); };
-    m_fake.on(u"GetDeviceByIpIface"_s, replyWithNothing);
+    for (const auto& name : {u"GetDeviceByIpIface"_s, u"Get NetworkManager.WirelessEnabled"_s}) {
+        m_fake.on(name, [](const QDBusMessage& call) { return call.createReply(); });
+    }
     EXPECT_FALSE(m_manager.device(u"wlan0"_s).ok());
-    m_fake.on(u"Get NetworkManager.WirelessEnabled"_s, replyWithNothing);
     EXPECT_FALSE(m_manager.radioSwitches().ok());
 }
 
@@ -125,7 +111,6 @@ TEST_F(NetworkManagerTest, anUnreachableBusIsNoNetworkManager)
 {
     const NetworkManager manager(u"unix:path=/nowhere"_s);
     EXPECT_FALSE(manager.isRunning());
-    EXPECT_FALSE(manager.radioSwitches().ok());
     EXPECT_EQ(manager.requestScan(wlan0, {})->failure, RemoteFailure::notRunning);
 }
 

@@ -41,8 +41,6 @@ TEST_F(XdgLoginItemTest, WritesAnEntryThatDesktopsRead)
     EXPECT_FALSE(item.isEnabled());
     EXPECT_TRUE(entry().contains("\nHidden=true\n"));
 
-    qputenv("XDG_CONFIG_HOME", "/somewhere");
-    EXPECT_EQ(XdgLoginItem::userPath(), u"/somewhere/autostart/org.aerolith.Aerolith.desktop"_s);
     qunsetenv("XDG_CONFIG_HOME");
     qputenv("HOME", "/home/ada");
     EXPECT_EQ(XdgLoginItem::userPath(), u"/home/ada/.config/autostart/org.aerolith.Aerolith.desktop"_s);
@@ -58,10 +56,8 @@ TEST_F(XdgLoginItemTest, QuotesAnyPath)
         {u"/opt/ü\nHidden=true\t"_s, "\"/opt/ü\\nHidden=true\\t\""},
     };
     for (const auto& [program, exec] : cases) {
-        XdgLoginItem quoted(path, program);
-        EXPECT_FALSE(quoted.setEnabled(true));
+        EXPECT_FALSE(XdgLoginItem(path, program).setEnabled(true));
         EXPECT_TRUE(entry().contains("\nExec=" + exec + '\n')) << entry().toStdString();
-        EXPECT_TRUE(quoted.isEnabled());
     }
 }
 
@@ -94,10 +90,10 @@ TEST_F(XdgLoginItemTest, ReadsTheStateThatOthersHaveSet)
     for (const auto& [contents, enabled] : cases) {
         putFile(path, contents);
         EXPECT_EQ(item.isEnabled(), enabled) << contents.toStdString();
-        EXPECT_FALSE(item.setEnabled(true));
-        EXPECT_TRUE(item.isEnabled()) << entry().toStdString();
-        EXPECT_FALSE(item.setEnabled(false));
-        EXPECT_FALSE(item.isEnabled()) << entry().toStdString();
+        for (const bool wanted : {true, false}) {
+            EXPECT_FALSE(item.setEnabled(wanted));
+            EXPECT_EQ(item.isEnabled(), wanted) << entry().toStdString();
+        }
     }
 }
 

@@ -59,26 +59,19 @@ protected:
 TEST_F(XdgWorkspaceTest, StartsWhatIsThereAndDoesNotWaitForIt)
 {
     const QDeadlineTimer beforeTheyEnd(3000);
-    install(u"nm-connection-editor"_s);
-    EXPECT_FALSE(workspace.openSettings(SettingsPage::network));
-    EXPECT_EQ(call(), u"nm-connection-editor"_s);
-
-    install(u"gnome-control-center"_s);
-    EXPECT_FALSE(workspace.openSettings(SettingsPage::wifi));
-    EXPECT_EQ(call(), u"gnome-control-center\nwifi"_s);
-
+    for (const auto& editor : {u"nm-connection-editor"_s, u"gnome-control-center\nnetwork"_s}) {
+        install(editor.section(u'\n', 0, 0));
+        EXPECT_FALSE(workspace.openSettings(SettingsPage::network));
+        EXPECT_EQ(call(), editor) << "the desktop's own comes first";
+    }
     install(u"wireshark"_s);
     EXPECT_FALSE(workspace.diagnosticsObstacle());
     EXPECT_FALSE(workspace.openDiagnostics());
     EXPECT_EQ(call(), u"wireshark"_s);
-    install(u"gnome-nettool"_s);
-    EXPECT_FALSE(workspace.openDiagnostics());
-    EXPECT_EQ(call(), u"gnome-nettool"_s);
 
     install(u"xdg-open"_s);
     EXPECT_FALSE(workspace.openUrl(QUrl(u"mailto:help@example.org?subject=A b&body=$(date)"_s)));
     EXPECT_EQ(call(), u"xdg-open\nmailto:help@example.org?subject=A%20b&body=$(date)"_s);
-
     ASSERT_TRUE(QDir(bin.path()).mkdir(u"my files"_s));
     EXPECT_FALSE(workspace.openFolder(bin.filePath(u"my files"_s)));
     EXPECT_EQ(call(), u"xdg-open\n%1"_s.arg(bin.filePath(u"my files"_s)));
@@ -87,25 +80,13 @@ TEST_F(XdgWorkspaceTest, StartsWhatIsThereAndDoesNotWaitForIt)
 
 TEST_F(XdgWorkspaceTest, SaysWhyNothingOpens)
 {
-    EXPECT_EQ(
-        workspace.openSettings(SettingsPage::network)->description,
-        u"Cannot open the network settings: not installed: gnome-control-center, nm-connection-editor"_s);
-    for (const auto& [desktop, program] :
-         {std::pair("Budgie:GNOME", u"budgie-control-center, gnome-control-center, "_s),
-          std::pair("KDE", u"systemsettings, systemsettings5, "_s), std::pair("::", u""_s)}) {
+    const auto noSettings = u"Cannot open the network settings: not installed: %1nm-connection-editor"_s;
+    for (const auto& [desktop, programs] :
+         {std::pair("Budgie:GNOME", u"budgie-control-center, gnome-control-center, "_s), {"::", u""_s}}) {
         qputenv("XDG_CURRENT_DESKTOP", desktop);
-        EXPECT_EQ(workspace.openSettings(SettingsPage::network)->description,
-                  u"Cannot open the network settings: not installed: %1nm-connection-editor"_s.arg(program));
+        EXPECT_EQ(workspace.openSettings(SettingsPage::network)->description, noSettings.arg(programs));
     }
-    qputenv("XDG_CURRENT_DESKTOP", "GNOME");
-    const auto noTool =
-        u"Cannot open a tool for network diagnostics: not installed: gnome-nettool, wireshark"_s;
-    EXPECT_EQ(workspace.diagnosticsObstacle()->description, noTool);
-    EXPECT_EQ(workspace.openDiagnostics()->description, noTool);
-    qputenv("XDG_CURRENT_DESKTOP", "KDE");
-    EXPECT_EQ(workspace.diagnosticsObstacle()->description, noTool + u", kinfocenter"_s);
-    install(u"kinfocenter"_s);
-    EXPECT_FALSE(workspace.diagnosticsObstacle());
+    EXPECT_EQ(workspace.openDiagnostics()->description, workspace.diagnosticsObstacle()->description);
     EXPECT_TRUE(workspace.openUrl(QUrl(u"https://example.org"_s)));
     install(u"xdg-open"_s);
     for (const QString& url : {u"file:///etc/passwd"_s, u"--help"_s, u"javascript:alert(1)"_s, QString()}) {
