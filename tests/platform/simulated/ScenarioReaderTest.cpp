@@ -30,7 +30,6 @@ TEST(ScenarioReader, refusesWithPlaceAndExpectation)
     const auto anInteger = u"expected an integer from -2147483648 to 2147483647, found "_s;
     const std::pair<QByteArray, QString> cases[] = {
         {"", u"line 1, column 1: expected JSON, illegal value"_s},
-        {R"({"cycles": [)", u"line 1, column 12: expected JSON, unterminated array"_s},
         {"{\n\n \"\xc3\xa9\": 1x}", u"line 3, column 8: expected JSON, unterminated object"_s},
         {"{\n\"cycles\": \"\xff\"}", u"line 2, column 11: expected JSON, invalid UTF8 string"_s},
         {QByteArray(100'000, '['), u"line 1, column 1025: expected JSON, too deeply nested document"_s},
@@ -41,8 +40,6 @@ TEST(ScenarioReader, refusesWithPlaceAndExpectation)
         {"{}", u"cycles: expected this required key, found nothing"_s},
         {R"({"cycles": [{"networks": []}, {"network": []}]})",
          u"cycles[1].network: unknown key, expected one of joined, networks"_s},
-        {R"({"cycles": [{"joined": null}]})",
-         u"cycles[0].networks: expected this required key, found nothing"_s},
         {R"({"cycles": [{"error": "no", "networks": []}]})",
          u"cycles[0].networks: unknown key, expected one of error"_s},
         {"{\"a\\nb\\u0085\": 1" + rest,
@@ -50,26 +47,16 @@ TEST(ScenarioReader, refusesWithPlaceAndExpectation)
          "scanSeconds, cycles, afterLast, passwords"_s},
         {network(R"("channel": {"band": 5})"),
          u"cycles[0].networks[0].channel.band: unknown key, expected one of number, width"_s},
-        {R"({"cycles": [{"joined": {"id": 1}, "networks": []}]})",
-         u"cycles[0].joined.id: unknown key, expected one of ssid, bssid"_s},
-        {R"({"interface": {"mac": "x"})" + rest,
-         u"interface.mac: unknown key, expected one of name, hardwareAddress, transmitPower, channels, "
-         "powerOn, powerRefused"_s},
         {R"({"cycles": []})", u"cycles: expected a list of at least one cycle, found an empty list"_s},
         {R"({"cycles": null})", u"cycles: expected a list, found null"_s},
-        {R"({"cycles": ["x"]})", u"cycles[0]: expected an object, found \"x\""_s},
-        {R"({"cycles": [{"networks": null}]})", u"cycles[0].networks: expected a list, found null"_s},
         {R"({"cycles": [{"joined": 5, "networks": []}]})",
          u"cycles[0].joined: expected an object or null, found 5"_s},
         {R"({"authorization": "yes")" + rest,
          u"authorization: expected one of \"notDetermined\", \"restricted\", \"denied\", "
          "\"authorizedAlways\", \"authorized\", found \"yes\""_s},
-        {R"({"afterLast": null)" + rest, u"afterLast: expected one of \"repeat\", \"loop\", found null"_s},
-        {R"({"interface": true)" + rest, u"interface: expected an object or null, found true"_s},
         {R"({"interface": {"powerOn": 1})" + rest, u"interface.powerOn: expected true or false, found 1"_s},
         {R"({"interface": {"channels": [1, "6"]})" + rest,
          u"interface.channels[1]: "_s + anInteger + u"\"6\""_s},
-        {R"({"scanSeconds": -0.1)" + rest, u"scanSeconds: expected a number from 0 to 86400, found -0.1"_s},
         {R"({"scanSeconds": 1e300)" + rest,
          u"scanSeconds: expected a number from 0 to 86400, found 1e+300"_s},
         {R"({"passwords": {"My \"home\"": null})" + rest,
@@ -83,17 +70,13 @@ TEST(ScenarioReader, refusesWithPlaceAndExpectation)
          u"cycles[0].networks[0].rssi: "_s + anInteger + u"9223372036854776000"_s},
         {network(R"("security": [4, 64])"),
          u"cycles[0].networks[0].security[1]: expected an integer from 0 to 63, found 64"_s},
-        {network(R"("phyModes": [-1])"),
-         u"cycles[0].networks[0].phyModes[0]: expected an integer from 0 to 63, found -1"_s},
-        {network(R"("channel": {"width": -1})"),
-         u"cycles[0].networks[0].channel.width: expected an integer from 0 to 2147483647, found -1"_s},
     };
     for (const auto& [json, expected] : cases) {
         EXPECT_EQ(complaint(json), expected) << json.left(100).toStdString();
     }
 }
 
-TEST(ScenarioReader, readsTheKeysOrTheirDefaults)
+TEST(ScenarioReader, takesWhatIsMissingFromTheDefaultsAndTheFurthestValuesAsTheyAre)
 {
     const Scenario least = parseScenario(R"({"cycles": [{"networks": [{}]}]})").value();
     EXPECT_EQ(least.authorization, CLAuthorizationStatus::authorizedWhenInUse);
@@ -101,29 +84,14 @@ TEST(ScenarioReader, readsTheKeysOrTheirDefaults)
     EXPECT_EQ(least.interface->channels, (QList<qint64>{1, 6, 11, 36}));
     EXPECT_EQ(least.cycles[0].networks[0].beaconInterval, 100);
 
-    const Result<Scenario> read = parseScenario(R"({
-        "authorization": "notDetermined", "answer": "authorizedAlways", "interface": {"hardwareAddress": "aa"},
-        "cycles": [{"networks": [{"bssid": "bb", "ssid": "Café", "rssi": 7, "channel": {"number": -3, "width": 9},
-                                  "security": [63, 0, 0], "country": "FR", "beaconInterval": 0, "ibss": true,
-                                  "phyModes": [7]}]}]})");
-    ASSERT_TRUE(read.ok()) << read.error().description.toStdString();
-    EXPECT_EQ(read.value().authorization, CLAuthorizationStatus::notDetermined);
-    EXPECT_EQ(read.value().answer, CLAuthorizationStatus::authorizedAlways);
-    EXPECT_EQ(read.value().interface->hardwareAddress, u"aa"_s);
-    CWNetwork expected{.bssid = u"bb"_s,
-                       .ssid = u"Café"_s,
-                       .ssidData = "Caf\xc3\xa9",
-                       .rssiValue = 7,
-                       .wlanChannel = CWChannel{-3, 9},
-                       .countryCode = u"FR"_s,
-                       .beaconInterval = 0,
-                       .ibss = true,
-                       .securityCodes = {},
-                       .phyModeCodes = {}};
-    expected.securityCodes.insert(63);
-    expected.securityCodes.insert(0);
-    expected.phyModeCodes.insert(7);
-    EXPECT_EQ(read.value().cycles[0].networks, QList<CWNetwork>{expected});
+    const Result<Scenario> most = parseScenario(network(
+        R"("ssid": "Café", "channel": {"number": -3, "width": 9}, "security": [63, 0, 0], "beaconInterval": 0)"));
+    ASSERT_TRUE(most.ok()) << most.error().description.toStdString();
+    const CWNetwork& read = most.value().cycles[0].networks[0];
+    EXPECT_EQ(read.ssidData, "Caf\xc3\xa9");
+    EXPECT_EQ(read.wlanChannel, (CWChannel{-3, 9}));
+    EXPECT_EQ(read.securityCodes.bits(), (quint64{1} << 63) + 1);
+    EXPECT_EQ(read.beaconInterval, 0);
 }
 
 TEST(ScenarioReader, namesTheFile)
