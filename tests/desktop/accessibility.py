@@ -1,21 +1,20 @@
 #!/usr/bin/python3
-"""accessibility.py PROGRAM SCENARIO RESULTS
+"""accessibility.py PROGRAM RESULTS ARGUMENT...
 
 Walks the accessibility tree of every view of PROGRAM: each control has a name, the keyboard reaches each control of the
 window, the end of a scan is told. Then again in the pseudo-language: every text that is not verbatim is translated.
 RESULTS keeps the log."""
 
-import contextlib
 import os
 import re
 
-from accessible import Element, Failure, Program, check, click, key, run, wait_for
-from gi.repository import Atspi, GLib
+from accessible import Announcements, Element, Failure, Program, check, click, key, run, wait_for
+from gi.repository import Atspi
 from views import Views
 
 CONTROLS = {
-    "chart", "check box", "combo box", "dialog", "frame", "list", "list item", "menu item", "progress bar", "push button",
-    "slider", "text", "password text",
+    "chart", "check box", "combo box", "dialog", "frame", "list", "list item", "menu item", "password text",
+    "progress bar", "push button", "slider", "text",
 }
 NOT_SAID = {"unknown", "invalid"}
 # Of the rows that show an access point or the interface as a report has them.
@@ -26,8 +25,7 @@ VERBATIM = {
 }
 NETWORKS = ("Home & <b>Garden</b>", "100%s café", "Workshop", "Canal Boat")
 WINDOW_BY_TAB = {
-    "Networks", "Export network list", "Clear network list", "Signal Strength", "Signal History",
-    "Export network data",
+    "Networks", "Export network list", "Clear network list", "Signal Strength", "Signal History", "Export network data",
     "Refresh network data", "Hide sidebar", "Settings", "Wi-Fi interface information", "All Networks",
 }
 
@@ -103,54 +101,28 @@ def open_by_keys(views):
     wait_for("the focus on the button again", lambda: focused(views.frame).name == "Settings")
 
 
-class Announcements:
-    def __init__(self):
-        self.told = []
-        self.listener = Atspi.EventListener.new(self.hear)
-        self.listener.register("object:state-changed:showing")
-
-    def hear(self, event):
-        # What has shown may be gone by now.
-        with contextlib.suppress(GLib.Error):
-            if event.detail1 and event.source and event.source.get_role() == Atspi.Role.NOTIFICATION:
-                event.source.clear_cache()
-                self.told.append(event.source.get_name())
-
-    def expect(self, text):
-        def heard():
-            while GLib.MainContext.default().iteration(False):
-                pass
-            return text in self.told
-
-        wait_for(f"the announcement {text!r}", heard)
-        print(f"ok: announced: {self.told}")
-        self.told = []
-
-
-def walk_in_english(path, scenario, results):
-    announcements = Announcements()
-    with Program(path, "--simulate", scenario, log=f"{results}/log") as program:
+def walk_in_english(path, results, *arguments):
+    announcements = Announcements("showing")
+    with Program(path, *arguments, log=results / "log") as program:
         views = Views(program.application())
-        announcements.expect("Scan finished: 4 networks")
+        announcements.expect("notification", "Scan finished: 4 networks")
         judge(views, nameless, left_out={"save"})
         tab_through(views.frame)
         open_by_keys(views)
         views.named("push button", "Refresh network data").press()
-        announcements.expect("Scan finished: 4 networks")
+        announcements.expect("notification", "Scan finished: 4 networks")
 
 
-def walk_in_pseudo_language(path, scenario, results):
+def walk_in_pseudo_language(path, results, *arguments):
     os.environ.update(LANG="ar_XB.UTF-8", LANGUAGE="", LC_ALL="")
-    with Program(path, "--simulate", scenario, log=f"{results}/log-pseudo") as program:
+    with Program(path, *arguments, log=results / "log-pseudo") as program:
         # Where the time is told in words, and the system's own dialog, the words are others'.
         judge(Views(program.application(), "ar_XB"), untranslated, left_out={"save"})
 
 
-def main(path, scenario, results):
-    os.makedirs(results, exist_ok=True)
-    walk_in_english(path, scenario, results)
-    walk_in_pseudo_language(path, scenario, results)
+def main(*arguments):
+    walk_in_english(*arguments)
+    walk_in_pseudo_language(*arguments)
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

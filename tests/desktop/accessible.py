@@ -3,6 +3,7 @@
 import contextlib
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import sys
@@ -165,35 +166,46 @@ def key(*names):
     subprocess.run(["xdotool", "key", "--delay", "200", *names], check=True)
 
 
-class Focus:
-    """What has been told of the keyboard focus. An open menu can be met in this way alone: it is kept out of the
-    tree, as what assistive technology reads out of it are the entries that the focus comes to."""
+class Announcements:
+    """What is told of objects that come into a state, as their roles and names at that moment."""
 
-    def __init__(self):
+    def __init__(self, state):
         self.told = []
-        self.listener = Atspi.EventListener.new(lambda event: self.told.append(Element(event.source)))
-        self.listener.register("object:state-changed:focused")
+        self.listener = Atspi.EventListener.new(self.hear)
+        self.listener.register(f"object:state-changed:{state}")
 
-    def heard(self):
-        """What has been told so far."""
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return self.told
+    def hear(self, event):
+        # What has shown may be gone by now.
+        with contextlib.suppress(GLib.Error):
+            if event.detail1 and event.source:
+                event.source.clear_cache()
+                self.told.append((event.source.get_role_name(), event.source.get_name()))
 
-    def on(self, role, name):
-        def told():
-            return any(e.role == role and e.name == name for e in self.heard())
+    def expect(self, role, name):
+        """Not before what has been expected last."""
 
-        wait_for(f"the focus on {role} {name!r}, not only {self.told}", told)
+        def heard():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return (role, name) in self.told
+
+        wait_for(f"{role} {name!r} to be told of", heard)
+        print(f"ok: told of {role} {name!r}")
+        self.told = []
+
+
+def pointer(x, y, *what):
+    """Moves it, and does what xdotool calls so there."""
+    subprocess.run(["xdotool", "mousemove", *map(str, (x, y, *what))], check=True)
+
+
+def click_at(x, y):
+    pointer(x, y, "click", 1)
 
 
 def click(element):
     """The pointer's first button in the middle of an element."""
     click_at(*element.centre())
-
-
-def click_at(x, y):
-    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
 
 def store_settings(**values):
@@ -243,13 +255,18 @@ class Program:
         return Application(application.accessible)
 
     def log(self):
-        with open(self.log_path, encoding="utf-8") as log:
-            return log.read()
+        return pathlib.Path(self.log_path).read_text(encoding="utf-8")
 
 
 def run(main):
-    """Runs a script's main with the command line's arguments; a failure is its last word and its exit status."""
+    """Runs a script's main with the command line's arguments: a program, the folder of its results, which is emptied
+    before, and what else there is. A failure is its last word and its exit status."""
+    path, results, *arguments = sys.argv[1:]
+    results = pathlib.Path(results).absolute()
+    shutil.rmtree(results, ignore_errors=True)
+    results.mkdir(parents=True, exist_ok=True)
     try:
-        main(*sys.argv[1:])
+        main(path, results, *arguments)
     except Failure as failure:
         sys.exit(f"failed: {failure}")
+    print("ok: ended")

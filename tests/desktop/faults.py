@@ -5,7 +5,6 @@ Leaves PROGRAM's window scanning every 5 seconds until there is a file RESULTS/e
 networks it lists: RESULTS/pulse.csv has the time since boot of every answer, how long it took and what it was."""
 
 import csv
-import pathlib
 import time
 
 from accessible import Program, run, store_settings, wait_for
@@ -13,7 +12,6 @@ from main_window import MainWindow
 
 
 def main(path, results, *arguments):
-    results = pathlib.Path(results)
     store_settings(scanInterval=5)
     with (Program(path, *arguments, log=results / "log") as program,
           open(results / "pulse.csv", "w", encoding="utf-8", buffering=1) as pulse):
@@ -28,8 +26,6 @@ def main(path, results, *arguments):
             answered = time.monotonic()
             table.writerow((round(answered, 2), round(answered - asked, 2), networks))
             time.sleep(0.5)
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

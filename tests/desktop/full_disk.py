@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -u
-"""full_disk.py PROGRAM SSID RESULTS [ARGUMENT...]
+"""full_disk.py PROGRAM RESULTS SSID [ARGUMENT...]
 
 Has PROGRAM's window store its settings and export the list on a disk of its own that is first empty, then full, then
 read-only, then as it was. RESULTS keeps the log. Ends with 77 where this user may not mount a disk."""
@@ -64,10 +64,9 @@ def refuse(what, program, window, disk, seconds):
     wait_for("the next scan", lambda: program.log().count("Network scan completed") > scans)
 
 
-def main(path, ssid, results, *arguments):
-    os.makedirs(results, exist_ok=True)
+def main(path, results, ssid, *arguments):
     disk = Disk(os.environ["XDG_CONFIG_HOME"])
-    with Program(path, *arguments, log=f"{results}/log") as program:
+    with Program(path, *arguments, log=results / "log") as program:
         window = MainWindow(program)
         first_scan(window)
         window.set(scanInterval=5)
@@ -90,12 +89,10 @@ def main(path, ssid, results, *arguments):
         window.set(scanInterval=8)
         window.save("Export network list", disk.list)
         wait_for("both files anew", lambda: b"scanInterval=8\n" in disk.files()[0] and ssid.encode() in disk.files()[1])
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    if "DISK" not in os.environ:
-        if subprocess.run([*UNSHARE, "true"], check=False).returncode != 0:
-            sys.exit(77)
-        os.execvp(UNSHARE[0], [*UNSHARE, "env", "DISK=", *sys.argv])
-    run(main)
+if "DISK" not in os.environ:
+    if subprocess.run([*UNSHARE, "true"], check=False).returncode != 0:
+        sys.exit(77)
+    os.execvp(UNSHARE[0], [*UNSHARE, "env", "DISK=", *sys.argv])
+run(main)

@@ -1,11 +1,10 @@
 #!/usr/bin/python3 -u
-"""joining.py PROGRAM PASSWORD RESULTS SSID...
+"""joining.py PROGRAM RESULTS PASSWORD SSID...
 
 Drives PROGRAM on live access points, as a user who begins without the permission to scan: waits for it (RESULTS/refused
 is made when the window says that it is missing), then joins each SSID from the popover, the first one with a wrong
 password before, and switches the radio. What NetworkManager says meanwhile is NetworkManager's own client's word."""
 
-import pathlib
 import subprocess
 
 from accessible import Program, check, key, run, wait_for
@@ -75,8 +74,7 @@ def switch_radio(application, popover):
     print("ok: the radio goes off and on")
 
 
-def main(path, password, results, *ssids):
-    results = pathlib.Path(results)
+def main(path, results, password, *ssids):
     with Program(path, log=results / "log") as program, tray():
         application = program.application()
         begin(application, results)
@@ -88,8 +86,6 @@ def main(path, password, results, *ssids):
         key("Escape")
         popover.closed()
         switch_radio(application, popover)
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

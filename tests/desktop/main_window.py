@@ -1,20 +1,20 @@
 #!/usr/bin/python3 -u
-"""main_window.py PROGRAM SSID RESULTS [ARGUMENT...]
+"""main_window.py PROGRAM RESULTS SSID [ARGUMENT...]
 
-Drives PROGRAM's main window through its accessibility tree, in the desktop session that this runs in: selects the
-access point SSID, reads its details, hides and shows it, filters, sorts, exports both files to the folder RESULTS, reads
-the interface's properties and changes the settings. It knows nothing of the air around: what the window says in one
-place is compared with what it says in another and with the files. RESULTS/details.json keeps what the pane said."""
+Drives PROGRAM's main window through its accessibility tree: selects the access point SSID, reads its details, hides and
+shows it, filters, sorts, exports both files to the folder RESULTS, reads the interface's properties and changes the
+settings. It knows nothing of the air around: what the window says in one place is compared with what it says in another
+and with the files. RESULTS/details.json keeps what the pane said."""
 
 import contextlib
 import csv
 import functools
 import json
 import os
+import pathlib
 import re
-import shutil
 
-from accessible import PATIENCE, Failure, Focus, Program, check, click, key, run, wait_for
+from accessible import PATIENCE, Announcements, Failure, Program, check, click, key, run, wait_for
 
 PANE_ROWS = {
     "SSID": "SSID", "BSSID": "BSSID", "Channel": "Channel", "Band": "Band", "Security": "Security",
@@ -67,38 +67,41 @@ class MainWindow:
         """The row's context menu, by the keyboard."""
         click(self.row(ssid))
         self.shows(ssid)
-        focus = Focus()
+        # An open menu is kept out of the tree: what is read out of it are the entries that the focus comes to.
+        focus = Announcements("focused")
         key("Menu", "Down")
-        focus.on("menu item", entry)
+        focus.expect("menu item", entry)
         key("Return")
 
-    def save(self, button, path):
-        replaces = os.path.exists(path)
+    @contextlib.contextmanager
+    def dialog(self, button):
         self.frame.find("push button", button).press()
-        dialog = self.application.find("dialog")
-        dialog.find("text", "File name:").text = str(path)
-        dialog.find("push button", "Save").press()
-        if replaces:
-            self.application.find("push button", "Yes").press()
+        yield self.application.find("dialog")
         self.application.gone("dialog")
+
+    def save(self, button, path):
+        replaces = path.exists()
+        with self.dialog(button) as dialog:
+            dialog.find("text", "File name:").text = str(path)
+            dialog.find("push button", "Save").press()
+            if replaces:
+                self.application.find("push button", "Yes").press()
 
     def saved(self, button, path):
         """The rows of the file."""
         self.save(button, path)
-        wait_for(path, lambda: os.path.exists(path))
-        with open(path, encoding="utf-8", newline="") as file:
+        wait_for(path, path.exists)
+        with path.open(encoding="utf-8", newline="") as file:
             return list(csv.reader(file))
 
     def set(self, **settings):
         """By the names of the settings file."""
-        self.frame.find("push button", "Settings").press()
-        dialog = self.application.find("dialog")
-        for name, value in settings.items():
-            label, unit = SETTINGS[name]
-            dialog.find("slider", label).value = value
-            dialog.find("label", f"{value}{unit}")
-        dialog.find("push button", "Save").press()
-        self.application.gone("dialog")
+        with self.dialog("Settings") as dialog:
+            for name, value in settings.items():
+                label, unit = SETTINGS[name]
+                dialog.find("slider", label).value = value
+                dialog.find("label", f"{value}{unit}")
+            dialog.find("push button", "Save").press()
 
 
 def first_scan(window):
@@ -162,21 +165,20 @@ def sort(window):
 
 
 def export(window, ssid, results):
-    rows = window.saved("Export network list", f"{results}/list.csv")
+    rows = window.saved("Export network list", results / "list.csv")
     check("the exported rows", [row[0] for row in rows[1:]], window.rows())
     details = window.details()
     record = dict(zip(rows[0], next(row for row in rows[1:] if row[1] == details["BSSID"])))
     for label, column in PANE_ROWS.items():
         if label in details:
             check(f"{label} in the file", record[column], details[label].removesuffix(" dBm"))
-    rows = window.saved("Export network data", f"{results}/details.csv")
+    rows = window.saved("Export network data", results / "details.csv")
     check("the exported access point", ssid in [cell for row in rows for cell in row], True)
 
 
 def compare_with_scenario(details, path):
     """What the radio was told to report, where it is a simulated one."""
-    with open(path, encoding="utf-8") as file:
-        cycles = json.load(file)["cycles"]
+    cycles = json.loads(pathlib.Path(path).read_text(encoding="utf-8"))["cycles"]
     heard = next(n for n in cycles[0]["networks"] if n["bssid"] == details["BSSID"])
     check("the SSID on the air", details["SSID"], heard["ssid"])
     check("the channel on the air", details["Channel"], str(heard["channel"]["number"]))
@@ -194,18 +196,15 @@ def interface_texts(dialog):
 
 
 def interface(window):
-    window.frame.find("push button", "Wi-Fi interface information").press()
-    dialog = window.application.find("dialog")
-    # Its rows are made anew when a reading changes, which may be while they are read.
-    print(f"ok: the interface: {wait_for('all rows', lambda: interface_texts(dialog))}")
-    key("Return")
-    window.application.gone("dialog")
+    with window.dialog("Wi-Fi interface information") as dialog:
+        # Its rows are made anew when a reading changes, which may be while they are read.
+        print(f"ok: the interface: {wait_for('all rows', lambda: interface_texts(dialog))}")
+        key("Return")
 
 
 def settings(window):
     window.set(scanInterval=15, historyLimit=35)
-    with open(os.environ["XDG_CONFIG_HOME"] + "/aerolith/aerolith.conf", encoding="utf-8") as stored:
-        lines = stored.read().splitlines()
+    lines = pathlib.Path(os.environ["XDG_CONFIG_HOME"], "aerolith/aerolith.conf").read_text().splitlines()
     for line in ("scanInterval=15", "historyLimit=35"):
         check(f"{line} is stored", line in lines, True)
 
@@ -217,17 +216,12 @@ def clear_and_refresh(window):
     wait_for("the list again", lambda: window.count() > 0)
 
 
-def main(path, ssid, results, *arguments):
-    results = os.path.abspath(results)
-    # A file from the last run would have the dialog ask whether to replace it.
-    shutil.rmtree(results, ignore_errors=True)
-    os.makedirs(results, exist_ok=True)
-    with Program(path, *arguments, log=f"{results}/log") as program:
+def main(path, results, ssid, *arguments):
+    with Program(path, *arguments, log=results / "log") as program:
         window = MainWindow(program)
         first_scan(window)
         details = read_details(window, ssid)
-        with open(f"{results}/details.json", "w", encoding="utf-8") as file:
-            json.dump(details, file)
+        (results / "details.json").write_text(json.dumps(details))
         if "--simulate" in arguments:
             compare_with_scenario(details, arguments[arguments.index("--simulate") + 1])
         hide_and_show(window, ssid)
@@ -238,7 +232,6 @@ def main(path, ssid, results, *arguments):
         clear_and_refresh(window)
         key("ctrl+q")
         check("the status that Quit ends with", program.process.wait(PATIENCE), 0)
-    print("ok: ended")
 
 
 if __name__ == "__main__":

@@ -6,7 +6,6 @@ script's own, whose user takes RESULTS/chosen.csv. RESULTS keeps the file and th
 
 import csv
 import os
-import shutil
 
 from accessible import Program, check, run, wait_for
 from bus_service import BusService
@@ -35,7 +34,7 @@ class Portal:
         _parent, _title, options = arguments
         self.asked.append(options)
         request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
-        results = {"uris": GLib.Variant("as", ["file://" + self.answer])}
+        results = {"uris": GLib.Variant("as", [self.answer.as_uri()])}
 
         def respond(*_):
             bus.emit_signal(None, request, "org.freedesktop.portal.Request", "Response",
@@ -49,24 +48,19 @@ class Portal:
 
 
 def main(path, results, *arguments):
-    results = os.path.abspath(results)
-    shutil.rmtree(results, ignore_errors=True)
-    os.makedirs(results)
-    chosen = f"{results}/chosen.csv"
+    chosen = results / "chosen.csv"
     portal = Portal(chosen)
     os.environ["QT_QPA_PLATFORMTHEME"] = "xdgdesktopportal"
-    with Program(path, *arguments, log=f"{results}/log") as program:
+    with Program(path, *arguments, log=results / "log") as program:
         application = program.application()
         rows = wait_for("the rows", lambda: application.find("list", "Networks").children)
         application.find("push button", "Export network list").press()
-        wait_for("the file", lambda: os.path.exists(chosen))
+        wait_for("the file", chosen.exists)
         check("the portal was asked once", len(portal.asked), 1)
         check("the name that was suggested", portal.asked[0]["current_name"], "wifi_networks.csv")
         with open(chosen, encoding="utf-8", newline="") as file:
             check("the exported rows", len(list(csv.reader(file))), len(rows) + 1)
         check("no dialog of the program's own", application.all("dialog"), [])
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -u
-"""soak.py PROGRAM SCANNER SECONDS RESULTS [ARGUMENT...]
+"""soak.py PROGRAM RESULTS SCANNER SECONDS [ARGUMENT...]
 
 Leaves PROGRAM's window, with an access point selected, and `SCANNER --watch` running side by side for SECONDS, both
 at a scan every 5 seconds. RESULTS keeps their logs and, in window.csv and scanner.csv, what each of them held every
@@ -58,21 +58,19 @@ class Sampler:
                              self.cycles, round(work, 5)))
 
 
-def main(path, scanner, seconds, results, *arguments):
+def main(path, results, scanner, seconds, *arguments):
     store_settings(scanInterval=INTERVAL)
-    with (Program(path, *arguments, log=f"{results}/window.log") as window,
-          Program(scanner, "--watch", *arguments, log=f"{results}/scanner.log") as scan):
+    with (Program(path, *arguments, log=results / "window.log") as window,
+          Program(scanner, "--watch", *arguments, log=results / "scanner.log") as scan):
         shown = MainWindow(window)
         wait_for("a first scan", lambda: shown.list.children)
         shown.list.children[0].act("Toggle")
-        samplers = [Sampler(window, f"{results}/window.csv"), Sampler(scan, f"{results}/scanner.csv")]
+        samplers = [Sampler(window, results / "window.csv"), Sampler(scan, results / "scanner.csv")]
         begun = time.monotonic()
         for end in range(PERIOD, int(seconds) + 1, PERIOD):
             work = mean_yardstick(begun + end)
             for sampler in samplers:
                 sampler.sample(end, work)
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

@@ -1,12 +1,11 @@
 #!/usr/bin/python3
-"""status_item.py PROGRAM SSID PASSWORD RESULTS [ARGUMENT...]
+"""status_item.py PROGRAM RESULTS SSID PASSWORD [ARGUMENT...]
 
 Drives PROGRAM's icon in an X11 tray that begins after the program: closes the main window and brings it back, opens the
 popover under the icon by a click, and joins the network SSID, first with a wrong password, then an open one. RESULTS
 keeps the log."""
 
 import ctypes
-import os
 
 from accessible import Program, check, click, key, run, wait_for
 from popover import Popover, tray
@@ -49,9 +48,8 @@ def join_from_open_popover(popover, ssid):
     check("the popover has the pointer again", pointer_is_free(), False)
 
 
-def main(path, ssid, password, results, *arguments):
-    os.makedirs(results, exist_ok=True)
-    with Program(path, *arguments, log=f"{results}/log") as program:
+def main(path, results, ssid, password, *arguments):
+    with Program(path, *arguments, log=results / "log") as program:
         application = program.application()
         wait_for("a first scan", lambda: application.all("list item"))
         popover = Popover(application)
@@ -66,8 +64,6 @@ def main(path, ssid, password, results, *arguments):
             check("a wrong password fails with words", bool(told), True)
             check("the right one joins", popover.connect(ssid, password), None)
             join_from_open_popover(popover, "100%s café")
-    print("ok: ended")
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

@@ -1,5 +1,5 @@
-"""A desktop's bar that shows icons over the session bus, as Wayland's do. It comes in two parts, of which only the first
-is there from the beginning: the watcher, and the host, which shows the icons."""
+"""A desktop's bar that shows icons over the session bus, as Wayland's do. It comes in two parts, of which only the
+first is there from the beginning: the watcher, and the host, which shows the icons."""
 
 from accessible import wait_for
 from bus_service import BusService

@@ -1,11 +1,10 @@
 #!/usr/bin/python3
-"""wayland.py PROGRAM SSID RESULTS [ARGUMENT...]
+"""wayland.py PROGRAM RESULTS SSID [ARGUMENT...]
 
 Drives PROGRAM's main window on Wayland, where no program can press keys or move the pointer for another: what
 assistive technology can do alone. RESULTS keeps the log and the exported files."""
 
 import os
-import shutil
 
 from accessible import Program, check, run, wait_for
 from main_window import MainWindow, export, first_scan, read_details, settings
@@ -32,20 +31,16 @@ def popover(window, notifier):
     print("ok: the icon opens and closes the popover")
 
 
-def main(path, ssid, results, *arguments):
+def main(path, results, ssid, *arguments):
     check("the window system", os.environ["QT_QPA_PLATFORM"], "wayland")
-    shutil.rmtree(results, ignore_errors=True)
-    os.makedirs(results)
     notifier = StatusNotifier()
-    with Program(path, *arguments, log=f"{results}/log") as program:
+    with Program(path, *arguments, log=results / "log") as program:
         window = MainWindow(program)
         first_scan(window)
         read_details(window, ssid)
         export(window, ssid, results)
         settings(window)
         popover(window, notifier)
-    check("the status that it ends with", program.process.returncode, 0)
 
 
-if __name__ == "__main__":
-    run(main)
+run(main)

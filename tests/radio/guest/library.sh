@@ -74,14 +74,14 @@ as_user() {
 observe() { observe_command "$1" "$2" /run/program "${@:3}"; }
 
 # drive NAME SECONDS SCRIPT ARGUMENT...: the same with one of the scripts that drive a window through its accessibility
-# tree, in a desktop session of its own; the program comes before the arguments.
+# tree, in a desktop session of its own; the program and the folder come before the arguments.
 drive() {
     if [ ! -e /run/desktop ]; then
         cp -r "$BED/../desktop" /run/desktop
         chmod -R a+rX /run/desktop # like the program's folder
         mkdir -p -m 1777 /tmp/.X11-unix
     fi
-    observe_command "$1" "$2" env DESKTOP_PATIENCE=240 /run/desktop/run.sh x11 "/run/desktop/$3" /run/program "${@:4}"
+    observe_command "$1" "$2" env DESKTOP_PATIENCE=240 /run/desktop/run.sh x11 "/run/desktop/$3" /run/program . "${@:4}"
 }
 
 observe_command() {

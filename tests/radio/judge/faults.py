@@ -39,7 +39,8 @@ def read_faults(results: Path, logs: dict[str, list[str]]) -> list[Fault]:
 def judge_log(fault: Fault, program: str, faults: Faults) -> None:
     lines = fault.said(program, "begun", "mended")
     if pattern := FAULT_WORDS.get(fault.name):
-        faults.expect(any(re.search(pattern, line) for line in lines), f"{fault.name}: {program} does not tell: {lines}")
+        told = any(re.search(pattern, line) for line in lines)
+        faults.expect(told, f"{fault.name}: {program} does not tell: {lines}")
     if (fault.name, program) == ("bus", "window"):
         # Permission is taken away and given again, as soon as there is a bus.
         permission = [line.split()[2].strip(".") for line in lines if line.startswith("Location access ")]

@@ -125,7 +125,7 @@ install -m 755 "$(dirname "$PROGRAM")"/{aerolith-scan,radio-probe} /run
 iw event -t >/out/events.txt &
 observe_command watch 3600 /run/aerolith-scan --watch --interval 5 &
 WATCH=$!
-drive window 3600 faults.py . &
+drive window 3600 faults.py &
 WINDOW=$!
 wait_for 300 test -e /run/observed/window/ready || give_up "the window has not scanned"
 for name in $AEROLITH_FAULTS; do fault "$name"; done

@@ -27,5 +27,5 @@ keep_coming_and_going &
 start_network_manager
 permit yes
 install -m 755 "$(dirname "$PROGRAM")/aerolith-scan" /run/scanner
-drive soak $((AEROLITH_SOAK_SECONDS + 300)) soak.py /run/scanner "$AEROLITH_SOAK_SECONDS" .
+drive soak $((AEROLITH_SOAK_SECONDS + 300)) soak.py /run/scanner "$AEROLITH_SOAK_SECONDS"
 network_manager_lives

@@ -6,4 +6,4 @@ start_radios
 start_access_points
 start_network_manager
 permit yes
-drive window 600 main_window.py "$CHOSEN_SSID" .
+drive window 600 main_window.py "$CHOSEN_SSID"
