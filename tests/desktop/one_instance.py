@@ -5,6 +5,7 @@ Starts PROGRAM several times in one desktop session that has no tray: at the sam
 minimised window, while the first does not answer, and where there is no session bus. RESULTS keeps the logs."""
 
 import contextlib
+import itertools
 import os
 import signal
 import subprocess
@@ -23,25 +24,14 @@ def active_frame(application):
     return frame
 
 
-class Starts:
-    """Every start of the program, with its log."""
-
-    def __init__(self, path, results, stack):
-        self.path, self.results, self.stack = path, results, stack
-        self.count = 0
-
-    def start(self, *arguments):
-        self.count += 1
-        return self.stack.enter_context(Program(self.path, *arguments, log=f"{self.results}/{self.count}.log"))
-
-    def again(self, what):
-        program = self.start()
-        check(f"{what}, a second start ends", program.process.wait(PATIENCE), 0)
-        check(f"{what}, it says why", program.log(), TOLD)
+def start_again(start, where):
+    program = start()
+    check(f"{where}, a second start ends", program.process.wait(PATIENCE), 0)
+    check(f"{where}, it says why", program.log(), TOLD)
 
 
-def start_at_once(starts):
-    programs = [starts.start() for _ in range(4)]
+def start_at_once(start):
+    programs = [start() for _ in range(4)]
     wait_for("one to remain", lambda: sum(p.process.poll() is None for p in programs) == 1)
     first = next(p for p in programs if p.process.poll() is None)
     check("of four that start at once the others end",
@@ -49,7 +39,7 @@ def start_at_once(starts):
     return first
 
 
-def bring_back(starts, first):
+def bring_back(start, first):
     application = first.application()
     frame = active_frame(application)
     frame.find("check box", "All Networks").press()
@@ -59,18 +49,18 @@ def bring_back(starts, first):
     click(frame.find("list", "Networks"))
     key("alt+F4")
     application.gone("frame")
-    starts.again("behind a closed window")
+    start_again(start, "behind a closed window")
     frame = active_frame(application)
     check("it is the window as it was", bool(frame.all("check box", "Hiding Hidden")), True)
 
-    other = active_frame(starts.start("--simulate").application())
+    other = active_frame(start("--simulate").application())
     check("a simulated run has a window of its own", len(other.all("list")), 1)
-    starts.again("behind another window")
+    start_again(start, "behind another window")
     active_frame(application)
 
     window = subprocess.check_output(["xdotool", "getactivewindow"], text=True).strip()
     subprocess.run(["xdotool", "windowminimize", "--sync", window], check=True)
-    starts.again("behind a minimised window")
+    start_again(start, "behind a minimised window")
     active_frame(application)
 
 
@@ -86,19 +76,19 @@ def ask_over_the_bus(first):
     check("it still runs", first.process.poll(), None)
 
 
-def start_beside_one_that_hangs(starts, first):
+def start_beside_one_that_hangs(start, first):
     first.process.send_signal(signal.SIGSTOP)
     try:
-        program = starts.start()
+        program = start()
         active_frame(program.application())
     finally:
         first.process.send_signal(signal.SIGCONT)
     check("where the first hangs the second says so", program.log().count("but does not answer: "), 1)
 
 
-def start_without_a_bus(starts):
+def start_without_a_bus(start):
     os.environ["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nonexistent"
-    program = starts.start()
+    program = start()
     windows = ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(program.process.pid), "--name", "."]
     found = wait_for("a window", lambda: subprocess.run(windows, capture_output=True, text=True).stdout.split())
     check("where there is no bus it says so",
@@ -112,12 +102,16 @@ def main(path, results):
     # The machine's own Wi-Fi is left alone.
     os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=/nonexistent"
     with contextlib.ExitStack() as stack:
-        starts = Starts(path, results, stack)
-        first = start_at_once(starts)
-        bring_back(starts, first)
+        numbers = itertools.count(1)
+
+        def start(*arguments):
+            return stack.enter_context(Program(path, *arguments, log=results / f"{next(numbers)}.log"))
+
+        first = start_at_once(start)
+        bring_back(start, first)
         ask_over_the_bus(first)
-        start_beside_one_that_hangs(starts, first)
-        start_without_a_bus(starts)
+        start_beside_one_that_hangs(start, first)
+        start_without_a_bus(start)
 
 
 run(main)
