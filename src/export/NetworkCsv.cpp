@@ -1,7 +1,7 @@
 #include "export/NetworkCsv.h"
 
 #include "export/Csv.h"
-#include "export/WithUnit.h"
+#include "export/Readings.h"
 
 namespace aerolith {
 
@@ -16,14 +16,14 @@ void addProperties(CsvText& csv, const WiFiNetwork& network, const DateTexts& te
     csv.addRow({u"BSSID", network.bssid});
     csv.addRow({u"RSSI", withUnit(network.rssi, "dBm"_L1)});
     csv.addRow({u"Noise", withUnit(network.noise, "dBm"_L1)});
-    csv.addRow({u"SNR", withUnit(network.rssi - network.noise, "dB"_L1)});
+    csv.addRow({u"SNR", withUnit(signalToNoise(network), "dB"_L1)});
     csv.addRow({u"Channel", DecimalField(network.channel).text()});
     csv.addRow({u"Channel Width", withUnit(network.channelWidth, "MHz"_L1)});
     csv.addRow({u"Band", network.channelBand});
     csv.addRow({u"Security", network.security});
-    csv.addRow({u"Network Type", network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s});
+    csv.addRow({u"Network Type", networkType(network)});
     csv.addRow({u"Beacon Interval", DecimalField(network.beaconInterval).text()});
-    csv.addRow({u"PHY Modes", network.isPhyModeSupported.join(u", "_s)});
+    csv.addRow({u"PHY Modes", phyModesText(network)});
     csv.addRow({u"Current Network", network.isCurrentNetwork ? u"Yes"_s : u"No"_s});
     csv.addRow({u"Last Seen", texts.mediumDateTime(network.timestamp)});
     if (network.countryCode) {

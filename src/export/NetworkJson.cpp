@@ -1,5 +1,7 @@
 #include "export/NetworkJson.h"
 
+#include "export/Readings.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -66,7 +68,7 @@ QByteArray networkDetailsJson(const WiFiNetwork& network)
                                    {u"noise"_s, sample.noise}});
     }
     QJsonObject details = objectOf(network);
-    details.insert(u"snr"_s, network.rssi - network.noise);
+    details.insert(u"snr"_s, signalToNoise(network));
     details.insert(u"signalHistory"_s, history);
     return QJsonDocument(details).toJson();
 }

@@ -87,4 +87,12 @@ SignalHistoryList::const_iterator SignalHistoryList::begin() const
     return m_block ? m_block->slots() + m_begin : nullptr;
 }
 
+SignalExtremes signalExtremes(const SignalHistoryList& history)
+{
+    const auto [weakest, strongest] =
+        std::minmax_element(history.begin(), history.end(),
+                            [](const SignalHistory& a, const SignalHistory& b) { return a.rssi < b.rssi; });
+    return {.weakest = weakest->rssi, .strongest = strongest->rssi};
+}
+
 } // namespace aerolith

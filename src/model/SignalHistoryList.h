@@ -52,4 +52,14 @@ private:
     qsizetype m_size = 0;
 };
 
+/// Of the RSSI of a history, in dBm.
+struct SignalExtremes
+{
+    qint64 weakest = 0;
+    qint64 strongest = 0;
+};
+
+/// Only of a history that is not empty.
+[[nodiscard]] SignalExtremes signalExtremes(const SignalHistoryList& history);
+
 } // namespace aerolith

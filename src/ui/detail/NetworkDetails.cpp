@@ -1,12 +1,10 @@
 #include "ui/detail/NetworkDetails.h"
 
-#include "export/WithUnit.h"
+#include "export/Readings.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/PlainText.h"
 
 #include <QCoreApplication>
-
-#include <algorithm>
 
 namespace aerolith {
 
@@ -27,7 +25,7 @@ NetworkDetailList signalOverview(const WiFiNetwork& network)
              "Received Signal Strength Indicator - measures how strong the WiFi signal is")},
         {u"noiseLevel"_s, u"Noise Level"_s, withUnit(network.noise, "dBm"_L1),
          NetworkDetailsTexts::tr("Background interference level that can affect signal quality")},
-        {u"snr"_s, u"SNR"_s, withUnit(network.rssi - network.noise, "dB"_L1),
+        {u"snr"_s, u"SNR"_s, withUnit(signalToNoise(network), "dB"_L1),
          NetworkDetailsTexts::tr("Signal-to-Noise Ratio - higher values mean better signal quality")},
     };
 }
@@ -61,10 +59,10 @@ NetworkDetailList advanced(const WiFiNetwork& network)
     return {
         {u"beaconInterval"_s, u"Beacon Interval"_s, QString::number(network.beaconInterval),
          NetworkDetailsTexts::tr("Time between router beacon transmissions in milliseconds")},
-        {u"networkType"_s, u"Network Type"_s, network.isIBSS ? u"Ad-Hoc"_s : u"Infrastructure"_s,
+        {u"networkType"_s, u"Network Type"_s, networkType(network),
          NetworkDetailsTexts::tr(
              "Infrastructure networks use access points, Ad-Hoc are direct device-to-device")},
-        {u"phyModes"_s, u"PHY Modes"_s, network.isPhyModeSupported.join(u", "_s),
+        {u"phyModes"_s, u"PHY Modes"_s, phyModesText(network),
          NetworkDetailsTexts::tr("Supported WiFi standards and transmission modes")},
     };
 }
@@ -83,12 +81,10 @@ QString signalSummary(const WiFiNetwork& network)
     const SignalHistoryList& history = network.signalHistory;
     QStringList parts{isolated(singleLine(network.ssid))};
     if (!history.isEmpty()) {
-        const auto [weakest, strongest] = std::minmax_element(
-            history.begin(), history.end(),
-            [](const SignalHistory& a, const SignalHistory& b) { return a.rssi < b.rssi; });
+        const SignalExtremes extremes = signalExtremes(history);
         parts << NetworkDetailsTexts::tr("latest %1 dBm").arg(history.last().rssi)
-              << NetworkDetailsTexts::tr("lowest %1 dBm").arg(weakest->rssi)
-              << NetworkDetailsTexts::tr("highest %1 dBm").arg(strongest->rssi);
+              << NetworkDetailsTexts::tr("lowest %1 dBm").arg(extremes.weakest)
+              << NetworkDetailsTexts::tr("highest %1 dBm").arg(extremes.strongest);
     }
     const auto count = static_cast<int>(history.size());
     parts.append(count == 1 ? NetworkDetailsTexts::tr("1 sample")

@@ -51,10 +51,8 @@ SignalRange signalRange(const SignalHistoryList& history)
     if (history.isEmpty()) {
         return {};
     }
-    const auto [weakest, strongest] =
-        std::minmax_element(history.begin(), history.end(),
-                            [](const SignalHistory& a, const SignalHistory& b) { return a.rssi < b.rssi; });
-    return {.min = weakest->rssi - room, .max = strongest->rssi + room};
+    const SignalExtremes extremes = signalExtremes(history);
+    return {.min = extremes.weakest - room, .max = extremes.strongest + room};
 }
 
 QList<qint64> gridValues(const SignalRange& range)
