@@ -3,12 +3,8 @@
 #include "export/CSVFile.h"
 #include "export/NetworkCsv.h"
 #include "export/NetworkJson.h"
-#include "platform/files/WholeFile.h"
 #include "platform/simulated/ScenarioWriter.h"
 
-#include <cerrno>
-#include <cstring>
-#include <unistd.h>
 #include <utility>
 
 namespace aerolith {
@@ -20,7 +16,7 @@ ScanCommand::ScanCommand(const Surroundings& surroundings, Arguments arguments, 
                          std::function<void(ExitStatus)> onEnd)
     : m_surroundings(surroundings)
     , m_arguments(std::move(arguments))
-    , m_output(output)
+    , m_target(output)
     , m_complain(std::move(complain))
     , m_onEnd(std::move(onEnd))
     , m_run(
@@ -66,7 +62,11 @@ void ScanCommand::endCycle()
     if (!m_arguments.watch || m_run.scanner().status() == ScannerStatus::error) {
         return;
     }
-    if (!print(m_watchLines.ofCycle(m_run.cyclesEnded(), m_run.scanner().networks()))) {
+    if (m_progress) {
+        m_progress->makeWay();
+    }
+    complainOf(m_target.print(m_watchLines.ofCycle(m_run.cyclesEnded(), m_run.scanner().networks())));
+    if (m_target.isClosed()) {
         m_run.interrupt();
     }
 }
@@ -108,7 +108,7 @@ void ScanCommand::writeRecording()
     }
     const Scenario scenario =
         m_recorder->scenario(cycles, m_surroundings.locationManager.authorizationStatus());
-    writeOrComplain(*m_arguments.recordFile, scenarioJson(scenario));
+    complainOf(m_target.write(*m_arguments.recordFile, scenarioJson(scenario)));
     if (m_recorder->isFull()) {
         trouble(ExitStatus::failed, u"%1 has the first %2 of %3 scans: a scenario has room for no more"_s.arg(
                                         *m_arguments.recordFile, QString::number(scenario.cycles.size()),
@@ -119,7 +119,7 @@ void ScanCommand::writeRecording()
 void ScanCommand::writeExports()
 {
     if (m_arguments.listFile || m_arguments.details.isEmpty()) {
-        write(m_arguments.listFile.value_or(u"-"_s), list());
+        complainOf(m_target.write(m_arguments.listFile.value_or(u"-"_s), list()));
     }
     for (const Arguments::Details& asked : std::as_const(m_arguments.details)) {
         writeDetails(asked);
@@ -134,7 +134,7 @@ void ScanCommand::writeDetails(const Arguments::Details& asked)
         trouble(ExitStatus::unknownAccessPoint, u"No access point %1 was heard"_s.arg(asked.bssid));
         return;
     }
-    write(asked.file, details(found.value()));
+    complainOf(m_target.write(asked.file, details(found.value())));
 }
 
 QByteArray ScanCommand::list()
@@ -151,45 +151,11 @@ QByteArray ScanCommand::details(const WiFiNetwork& network) const
                : CSVFile(networkDetailsCSV(network, DateTexts(m_surroundings.locale))).fileWrapper();
 }
 
-void ScanCommand::writeOrComplain(const QString& file, const QByteArray& document)
+void ScanCommand::complainOf(const Failure& failure)
 {
-    if (const Failure failure = writeFile(file, document)) {
+    if (failure) {
         trouble(ExitStatus::failed, failure->description);
     }
-}
-
-void ScanCommand::write(const QString& file, const QByteArray& document)
-{
-    if (file != "-"_L1) {
-        writeOrComplain(file, document);
-        return;
-    }
-    // A CSV text has no line feed at its end; a document that follows it needs one, and so does a terminal.
-    QByteArray bytes = document;
-    if (std::exchange(m_outputUsed, true) && m_arguments.format == ExportFormat::csv) {
-        bytes.prepend('\n');
-    }
-    if (isatty(fileno(m_output)) != 0 && !bytes.endsWith('\n')) {
-        bytes.append('\n');
-    }
-    print(bytes);
-}
-
-bool ScanCommand::print(const QByteArray& bytes)
-{
-    if (m_progress) {
-        m_progress->makeWay();
-    }
-    const auto size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, m_output) == size && std::fflush(m_output) == 0) {
-        return true;
-    }
-    // Who reads a pipe may have read enough.
-    if (errno != EPIPE) {
-        trouble(ExitStatus::failed,
-                u"Cannot write standard output: "_s + QString::fromLocal8Bit(std::strerror(errno)));
-    }
-    return false;
 }
 
 void ScanCommand::trouble(ExitStatus status, const QString& line)

@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/ExitStatus.h"
+#include "cli/ExportTarget.h"
 #include "cli/ProgressLine.h"
 #include "cli/RunProgress.h"
 #include "cli/ScanRun.h"
@@ -43,20 +44,16 @@ private:
     void writeDetails(const Arguments::Details& asked);
     [[nodiscard]] QByteArray list();
     [[nodiscard]] QByteArray details(const WiFiNetwork& network) const;
-    void writeOrComplain(const QString& file, const QByteArray& document);
-    void write(const QString& file, const QByteArray& document);
-    /// Whether there is still somebody to write for.
-    bool print(const QByteArray& bytes);
+    void complainOf(const Failure& failure);
     /// The first trouble decides the exit status.
     void trouble(ExitStatus status, const QString& line);
 
     Surroundings m_surroundings;
     Arguments m_arguments;
-    std::FILE* m_output;
+    ExportTarget m_target;
     std::function<void(const QString&)> m_complain;
     std::function<void(ExitStatus)> m_onEnd;
     ExitStatus m_status = ExitStatus::success;
-    bool m_outputUsed = false;
     WatchLines m_watchLines;
     std::optional<ScenarioRecorder> m_recorder;
     ScanRun m_run;
