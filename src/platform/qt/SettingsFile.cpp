@@ -1,6 +1,7 @@
 #include "platform/qt/SettingsFile.h"
 
 #include "platform/files/WholeFile.h"
+#include "platform/qt/ForeignValues.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +11,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <cctype>
 #include <cmath>
 #include <utility>
 
@@ -22,24 +22,6 @@ namespace {
 
 /// Milliseconds; another instance holds the lock for much less.
 constexpr int lockPatience = 2'000;
-
-/// Whether the line holds a value of a type that the program does not store, in the form in which Qt stores
-/// types without a text of their own. Of those the program stores 6, a number with a fraction, alone. In any
-/// other, which one damaged byte may make of it, a length may stand that asks for more memory than there is.
-bool isForeign(const QByteArray& line)
-{
-    constexpr QByteArrayView stored = "Variant(";
-    constexpr QByteArrayView number = R"(Variant(\0\0\0\x6)";
-    for (qsizetype at = line.indexOf(stored); at >= 0; at = line.indexOf(stored, at + 1)) {
-        const QByteArrayView rest = QByteArrayView(line).sliced(at);
-        const bool isNumber = rest.startsWith(number) && rest.size() > number.size() &&
-                              !std::isxdigit(static_cast<unsigned char>(rest[number.size()]));
-        if (!isNumber) {
-            return true;
-        }
-    }
-    return false;
-}
 
 } // namespace
 
@@ -139,11 +121,11 @@ SettingsFile::Cleaning SettingsFile::removeForeignValues() const
     if (!text.ok()) {
         return Cleaning::unnecessary;
     }
-    QList<QByteArray> lines = text.value().split('\n');
-    if (lines.removeIf(isForeign) == 0) {
+    const QByteArray own = withoutForeignValues(text.value());
+    if (own.size() == text.value().size()) {
         return Cleaning::unnecessary;
     }
-    return writeFile(m_path, lines.join('\n')) ? Cleaning::failed : Cleaning::done;
+    return writeFile(m_path, own) ? Cleaning::failed : Cleaning::done;
 }
 
 bool SettingsFile::save() const
