@@ -17,7 +17,7 @@ Result<CommandLine> parseCommandLine(QStringList arguments)
         } else if (argument == "--version"_L1) {
             commandLine.action = CommandLine::Action::showVersion;
         } else {
-            return Error{u"unknown argument %1"_s.arg(argument)};
+            return unknownArgument(argument);
         }
     }
     return commandLine;

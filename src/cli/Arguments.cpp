@@ -61,7 +61,7 @@ private:
             const QString bssid = value(option, u"a BSSID and a file"_s);
             m_parsed.details.append({.bssid = bssid, .file = value(option, u"a file after the BSSID"_s)});
         } else {
-            fail(u"Unknown argument \"%1\" (try --help)"_s.arg(option));
+            fail(unknownArgument(option).description);
         }
     }
 

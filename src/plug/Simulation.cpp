@@ -32,4 +32,9 @@ Result<std::optional<Simulation>> takeSimulation(QStringList& arguments)
     return simulation;
 }
 
+Error unknownArgument(const QString& argument)
+{
+    return {u"Unknown argument \"%1\" (try --help)"_s.arg(argument)};
+}
+
 } // namespace aerolith

@@ -23,4 +23,7 @@ struct Simulation
 /// form with "=". The error says what is wrong with the option.
 [[nodiscard]] Result<std::optional<Simulation>> takeSimulation(QStringList& arguments);
 
+/// Of an argument that a program does not know, in the words of both.
+[[nodiscard]] Error unknownArgument(const QString& argument);
+
 } // namespace aerolith
