@@ -1,5 +1,6 @@
 #include "ui/detail/HoverableDot.h"
 
+#include "ui/common/Rectangles.h"
 #include "ui/common/Theme.h"
 
 #include <QCoreApplication>
@@ -24,11 +25,6 @@ constexpr double boxPadding = 6;
 constexpr double boxRadius = 4;
 constexpr double boxOpacity = 0.8;
 constexpr double lineSpacing = 8;
-
-QRectF centredOn(const QPointF& centre, const QSizeF& size)
-{
-    return {centre - QPointF(size.width(), size.height()) / 2, size};
-}
 
 } // namespace
 

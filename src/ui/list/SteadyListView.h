@@ -13,6 +13,9 @@ class SteadyListView : public QListView
     Q_OBJECT
 
 public:
+    /// The width that a delegate asks for: a row takes the view's, whatever that is.
+    static constexpr int anyRowWidth = 1;
+
     /// `describe` puts a row into words.
     explicit SteadyListView(NetworkListModel::Describe describe, QWidget* parent = nullptr);
 

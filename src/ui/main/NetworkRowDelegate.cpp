@@ -1,19 +1,12 @@
 #include "ui/main/NetworkRowDelegate.h"
 
-#include "ui/list/NetworkListModel.h"
+#include "ui/list/SteadyListView.h"
 #include "ui/main/NetworkRowView.h"
 
 #include <QApplication>
 #include <QPainter>
 
 namespace aerolith {
-
-namespace {
-
-/// Width that a row asks for: it takes the list's, whatever that is.
-constexpr int anyWidth = 1;
-
-} // namespace
 
 void NetworkRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const
@@ -35,7 +28,7 @@ void NetworkRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
 QSize NetworkRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    return {anyWidth, NetworkRowView::height(option.font)};
+    return {SteadyListView::anyRowWidth, NetworkRowView::height(option.font)};
 }
 
 } // namespace aerolith

@@ -1,5 +1,6 @@
 #include "ui/main/WavingBackground.h"
 
+#include "ui/common/Rectangles.h"
 #include "ui/common/SecondaryLabel.h"
 #include "ui/common/Symbols.h"
 #include "ui/common/Theme.h"
@@ -28,17 +29,13 @@ constexpr double ringOpacity = 0.4;
 /// Between two pictures of the symbol its edge moves by a fifth of a pixel at most.
 constexpr std::chrono::milliseconds symbolInterval{66};
 
-QRectF centredSquare(const QPointF& centre, double side)
-{
-    return {centre.x() - side / 2, centre.y() - side / 2, side, side};
-}
-
 /// A square with a square hole, which covers what is between two circles.
 QRegion squareRing(const QPointF& centre, double innerRadius, double outerRadius)
 {
     const double hole = innerRadius * std::numbers::sqrt2 - 2;
-    return QRegion(centredSquare(centre, 2 * outerRadius).toAlignedRect())
-        .subtracted(centredSquare(centre, hole).toAlignedRect());
+    const double side = 2 * outerRadius;
+    return QRegion(centredOn(centre, {side, side}).toAlignedRect())
+        .subtracted(centredOn(centre, {hole, hole}).toAlignedRect());
 }
 
 /// What the rings ever cover.
@@ -148,7 +145,7 @@ void WavingBackground::paintSymbol(QPainter& painter) const
         Symbols::pixmap(m_symbol, largest, palette().color(QPalette::WindowText), devicePixelRatioF());
     const double side = antennaSize * symbolScale(m_clock.time());
     Symbols::mirrorIfPointing(painter, frame, m_symbol);
-    painter.drawPixmap(centredSquare(frame.center(), side), symbol, symbol.rect());
+    painter.drawPixmap(centredOn(frame.center(), {side, side}), symbol, symbol.rect());
 }
 
 } // namespace aerolith

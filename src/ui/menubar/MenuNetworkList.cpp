@@ -13,9 +13,6 @@ namespace aerolith {
 
 namespace {
 
-/// Width that a row asks for: it takes the list's, whatever that is.
-constexpr int anyWidth = 1;
-
 class RowDelegate : public QStyledItemDelegate
 {
 public:
@@ -33,7 +30,7 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const bool isJoined = m_list.rows().networks()[index.row()].isCurrentNetwork;
-        return {anyWidth, NetworkRowInMenu::height(option.font, isJoined)};
+        return {SteadyListView::anyRowWidth, NetworkRowInMenu::height(option.font, isJoined)};
     }
 
 private:

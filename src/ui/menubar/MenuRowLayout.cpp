@@ -1,5 +1,7 @@
 #include "ui/menubar/MenuRowLayout.h"
 
+#include "ui/common/Rectangles.h"
+
 #include <algorithm>
 
 namespace aerolith {
@@ -27,12 +29,6 @@ double contentHeight(const MenuRowMetrics& metrics, bool isJoined)
     return std::max({textHeight(metrics, isJoined), barsSize.height(), metrics.connectHeight});
 }
 
-/// From `left` about the row's vertical middle.
-QRectF centred(double left, double middle, const QSizeF& size)
-{
-    return {QPointF(left, middle - size.height() / 2), size};
-}
-
 } // namespace
 
 QRectF MenuRowLayout::button() const
@@ -46,18 +42,13 @@ QRectF MenuRowLayout::button() const
 
 MenuRowLayout MenuRowLayout::mirrored() const
 {
-    const auto mirror = [this](const QRectF& rect) {
-        return rect.translated(row.left() + row.right() - rect.left() - rect.right(), 0);
-    };
-    const auto mirrorIfPresent = [&](const std::optional<QRectF>& rect) {
-        return rect ? std::optional(mirror(*rect)) : std::nullopt;
-    };
+    const auto mirror = [this](const auto& rect) { return aerolith::mirrored(rect, row); };
     return {.row = row,
             .bars = mirror(bars),
             .name = mirror(name),
-            .connect = mirrorIfPresent(connect),
+            .connect = mirror(connect),
             .symbol = mirror(symbol),
-            .chart = mirrorIfPresent(chart),
+            .chart = mirror(chart),
             .divider = divider};
 }
 
@@ -71,12 +62,12 @@ MenuRowLayout layOutMenuRow(const QRectF& row, const MenuRowMetrics& metrics, bo
     MenuRowLayout layout;
     layout.row = row.adjusted(0, 0, 0, isJoined ? 0 : -dividerHeight);
     const double middle = layout.row.center().y();
-    layout.bars = centred(row.left() + sidePadding, middle, barsSize);
-    layout.symbol = centred(row.right() - sidePadding - symbolSize, middle, {symbolSize, symbolSize});
+    layout.bars = centredBeside(row.left() + sidePadding, middle, barsSize);
+    layout.symbol = centredBeside(row.right() - sidePadding - symbolSize, middle, {symbolSize, symbolSize});
     double trailing = layout.symbol.left();
     if (!isJoined) {
-        layout.connect = centred(trailing - connectSpacing - metrics.connectWidth, middle,
-                                 {metrics.connectWidth, metrics.connectHeight});
+        layout.connect = centredBeside(trailing - connectSpacing - metrics.connectWidth, middle,
+                                       {metrics.connectWidth, metrics.connectHeight});
         trailing = layout.connect->left();
         layout.divider = QRectF(row.left(), row.bottom() - dividerHeight, row.width(), dividerHeight);
     }
