@@ -2,27 +2,21 @@
 
 #include "ui/common/AccessibleRole.h"
 #include "ui/common/Animations.h"
-#include "ui/common/EaseInOut.h"
 #include "ui/common/NetworkTexts.h"
 #include "ui/common/Theme.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QWindow>
 
 #include <algorithm>
 
 namespace aerolith {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int usualWidth = 250;
-constexpr int fullHeight = 250;
-constexpr int miniHeight = 50;
-constexpr int drawingMilliseconds = 1500;
+constexpr int chartHeight = 250;
 constexpr QMarginsF focusDistance{9.5, 9.5, 9.5, 9.5};
 constexpr double focusRadius = 4;
 
@@ -38,22 +32,15 @@ bool isSame(const SignalHistoryList& a, const SignalHistoryList& b)
 CustomSignalChart::CustomSignalChart(const SignalChartParameters& parameters, QWidget* parent)
     : QWidget(parent)
     , m_parameters(parameters)
-    , m_drawing(this)
+    , m_drawing(*this, parameters.animate)
     , m_hover([this](const QUuid& id) { repaintDot(id); }, this)
 {
+    Q_ASSERT(!parameters.showMiniVersion);
     setAccessibleRole(*this, QAccessible::Chart);
     nameForAssistance();
-    const bool isFull = !parameters.showMiniVersion;
-    setMouseTracking(isFull);
-    setFocusPolicy(isFull ? Qt::TabFocus : Qt::NoFocus);
-    setSizePolicy(QSizePolicy::Expanding, isFull ? QSizePolicy::Fixed : QSizePolicy::Preferred);
-
-    m_drawing.setObjectName(u"drawing"_s);
-    m_drawing.setStartValue(0.0);
-    m_drawing.setEndValue(1.0);
-    m_drawing.setDuration(drawingMilliseconds);
-    m_drawing.setEasingCurve(easeInOut());
-    connect(&m_drawing, &QVariantAnimation::valueChanged, this, &CustomSignalChart::finishUnlessSeen);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void CustomSignalChart::showHistory(const SignalHistoryList& history)
@@ -67,8 +54,7 @@ void CustomSignalChart::showHistory(const SignalHistoryList& history)
 
 void CustomSignalChart::startOver()
 {
-    m_drawing.stop();
-    m_animateChart = false;
+    m_drawing.reset();
     hover({});
     m_hover.settle();
     update();
@@ -78,100 +64,38 @@ QSize CustomSignalChart::sizeHint() const
 {
     const QMargins margins = contentsMargins();
     // The values along its edge are text.
-    const int height = m_parameters.showMiniVersion ? miniHeight : Theme::scaledToText(fullHeight);
-    return {usualWidth, margins.top() + height + margins.bottom()};
+    return {usualWidth, margins.top() + Theme::scaledToText(chartHeight) + margins.bottom()};
 }
 
 QSize CustomSignalChart::minimumSizeHint() const
 {
-    return {0, m_parameters.showMiniVersion ? 0 : sizeHint().height()};
-}
-
-// The signal line that draws itself.
-
-double CustomSignalChart::drawnFraction() const
-{
-    if (m_drawing.state() != QVariantAnimation::Stopped) {
-        return m_drawing.currentValue().toDouble();
-    }
-    return m_animateChart || !m_parameters.animate ? 1 : 0;
-}
-
-/// From the first painting on, not from the first showing: until then nobody has seen the chart.
-void CustomSignalChart::beginDrawing()
-{
-    if (m_parameters.animate && !m_animateChart && isVisible()) {
-        m_animateChart = true;
-        if (hasAnimations(*this)) {
-            m_drawing.start();
-        }
-    }
-}
-
-/// A window that is covered or on another workspace is not exposed, though it is visible.
-void CustomSignalChart::finishUnlessSeen()
-{
-    const QWindow* handle = window()->windowHandle();
-    if (handle == nullptr || !handle->isExposed() || visibleRegion().isEmpty()) {
-        m_drawing.stop();
-    }
-    update();
+    return {0, sizeHint().height()};
 }
 
 void CustomSignalChart::hideEvent(QHideEvent* event)
 {
-    m_drawing.stop();
+    m_drawing.finish();
     m_hover.settle();
     QWidget::hideEvent(event);
 }
 
-// Dots.
-
-SignalChartGeometry CustomSignalChart::geometry() const
+ChartDots CustomSignalChart::dots() const
 {
-    return {m_history, contentsRect().size()};
-}
-
-HoverableDot CustomSignalChart::dot(const SignalChartGeometry& geometry, qsizetype index) const
-{
-    const SignalHistory& sample = m_history[index];
-    return {.position = geometry.signalPoint(index),
-            .data = sample,
-            .isHovered = sample.id == hoveredPointId(),
-            .growth = m_hover.growth(sample.id),
-            .totalWidth = static_cast<double>(contentsRect().width())};
-}
-
-QList<HoverableDot> CustomSignalChart::dots() const
-{
-    QList<HoverableDot> dots;
-    if (!m_parameters.showMiniVersion) {
-        const SignalChartGeometry places = geometry();
-        for (qsizetype i = 0; i < m_history.size(); ++i) {
-            dots.append(dot(places, i));
-        }
-    }
-    return dots;
-}
-
-qsizetype CustomSignalChart::indexOf(const QUuid& id) const
-{
-    const auto* const found = std::find_if(m_history.begin(), m_history.end(),
-                                           [&id](const SignalHistory& sample) { return sample.id == id; });
-    return found == m_history.end() ? -1 : found - m_history.begin();
+    return {m_history, contentsRect().size(), m_hover};
 }
 
 qsizetype CustomSignalChart::hoveredIndex() const
 {
-    return hoveredPointId() ? indexOf(*hoveredPointId()) : -1;
+    return hoveredPointId() ? dots().indexOf(*hoveredPointId()) : -1;
 }
 
 void CustomSignalChart::repaintDot(const QUuid& id)
 {
-    if (const qsizetype index = indexOf(id); index >= 0) {
-        const HoverableDot changed = dot(geometry(), index);
+    const ChartDots current = dots();
+    if (const qsizetype index = current.indexOf(id); index >= 0) {
         // One more, for smooth edges.
-        update(changed.extent(font())
+        update(current.dot(index)
+                   .extent(font())
                    .translated(contentsRect().topLeft())
                    .adjusted(-1, -1, 1, 1)
                    .toAlignedRect());
@@ -196,7 +120,7 @@ void CustomSignalChart::nameForAssistance()
 {
     QStringList name{tr("Signal History")};
     if (const qsizetype hovered = hoveredIndex(); hovered >= 0) {
-        name.append(dot(geometry(), hovered).readOut());
+        name.append(dots().dot(hovered).readOut());
     }
     setAccessibleName(name.join(listSeparator()));
 }
@@ -208,21 +132,19 @@ void CustomSignalChart::hoverSample(qsizetype index)
     }
 }
 
-void CustomSignalChart::hoverAt(const std::optional<QPointF>& pointer)
+void CustomSignalChart::hoverAt(const QPointF& pointer)
 {
-    const QList<HoverableDot> all = dots();
-    // Where dots overlap, the pointer is on the one that is seen.
-    const auto topmost = std::find_if(all.crbegin(), all.crend(), [&](const HoverableDot& dot) {
-        return pointer && dot.target().contains(*pointer - contentsRect().topLeft());
-    });
-    hover(topmost == all.crend() ? std::nullopt : std::optional(topmost->data.id));
+    hover(dots().below(pointer - contentsRect().topLeft()));
 }
 
 void CustomSignalChart::updateHover()
 {
     const QPoint pointer = mapFromGlobal(QCursor::pos());
-    const bool isOver = underMouse() && visibleRegion().contains(pointer);
-    hoverAt(isOver ? std::optional<QPointF>(pointer) : std::nullopt);
+    if (underMouse() && visibleRegion().contains(pointer)) {
+        hoverAt(pointer);
+    } else {
+        hover({});
+    }
 }
 
 void CustomSignalChart::mouseMoveEvent(QMouseEvent* event)
@@ -272,7 +194,7 @@ void CustomSignalChart::focusOutEvent(QFocusEvent* event)
 
 void CustomSignalChart::paintEvent(QPaintEvent*)
 {
-    beginDrawing();
+    m_drawing.begin();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     // Time runs from left to right and numbers read that way in every language.
@@ -284,7 +206,7 @@ void CustomSignalChart::paintEvent(QPaintEvent*)
                       .palette = palette(),
                       .font = font(),
                       .label = palette().color(foregroundRole())}
-        .paint(painter, drawnFraction(), dots());
+        .paint(painter, m_drawing.fraction(), dots().all());
     if (hasFocus()) {
         paintFocus(painter);
     }

@@ -1,23 +1,24 @@
 #pragma once
 
+#include "ui/detail/ChartDots.h"
 #include "ui/detail/DotHover.h"
+#include "ui/detail/LineDrawing.h"
 #include "ui/detail/SignalChartLayers.h"
 
-#include <QVariantAnimation>
 #include <QWidget>
 
 #include <optional>
 
 namespace aerolith {
 
-/// The signal history of one access point. In the full form each sample has a dot that reads it out while the
-/// pointer rests on it, whether or not the window is active; with the keyboard's focus, the arrow keys, Home
-/// and End go from sample to sample.
+/// The signal history of one access point, in the full form: each sample has a dot that reads it out while
+/// the pointer rests on it, whether or not the window is active; with the keyboard's focus, the arrow keys,
+/// Home and End go from sample to sample.
 ///
-/// The chart's rectangle is contentsRect(): 250 high in the full form, as high as it is given in the compact
-/// one. Noise beyond the scale and read-outs near an edge reach past it; a widget cannot draw outside of
-/// itself, so they have the contents margins, which whoever lays the chart out makes as wide as the empty
-/// space around it. What goes further would be drawn over other things, and ends there.
+/// The chart's rectangle is contentsRect(), 250 high. Noise beyond the scale and read-outs near an edge reach
+/// past it; a widget cannot draw outside of itself, so they have the contents margins, which whoever lays the
+/// chart out makes as wide as the empty space around it. What goes further would be drawn over other things,
+/// and ends there.
 class CustomSignalChart : public QWidget
 {
     Q_OBJECT
@@ -49,32 +50,21 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    /// In history order.
-    [[nodiscard]] QList<HoverableDot> dots() const;
-    [[nodiscard]] HoverableDot dot(const SignalChartGeometry& geometry, qsizetype index) const;
-    [[nodiscard]] SignalChartGeometry geometry() const;
+    [[nodiscard]] ChartDots dots() const;
     /// Below 0 when there is none.
-    [[nodiscard]] qsizetype indexOf(const QUuid& id) const;
     [[nodiscard]] qsizetype hoveredIndex() const;
     void hover(const std::optional<QUuid>& id);
     void hoverSample(qsizetype index);
-    /// `pointer` in the widget's coordinates; absent where it is elsewhere.
-    void hoverAt(const std::optional<QPointF>& pointer);
+    /// `pointer` in the widget's coordinates.
+    void hoverAt(const QPointF& pointer);
     void nameForAssistance();
     void repaintDot(const QUuid& id);
-
-    /// The part of the signal line that is drawn, 0 to 1.
-    [[nodiscard]] double drawnFraction() const;
-    void beginDrawing();
-    void finishUnlessSeen();
 
     void paintFocus(QPainter& painter) const;
 
     SignalChartParameters m_parameters;
     SignalHistoryList m_history;
-    /// The chart has been seen, so that its signal line has begun to draw itself.
-    bool m_animateChart = false;
-    QVariantAnimation m_drawing;
+    LineDrawing m_drawing;
     DotHover m_hover;
 };
 
