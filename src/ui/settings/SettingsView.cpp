@@ -1,10 +1,8 @@
 #include "ui/settings/SettingsView.h"
 
 #include "model/SettingKeys.h"
-#include "ui/common/SecondaryLabel.h"
-#include "ui/common/Theme.h"
 #include "ui/common/TitledBox.h"
-#include "ui/settings/SteppedSlider.h"
+#include "ui/settings/SliderSetting.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -13,7 +11,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 
 namespace aerolith {
@@ -25,74 +22,13 @@ namespace {
 constexpr int sheetWidth = 400;
 constexpr int sheetSpacing = 20;
 constexpr int settingSpacing = 16;
-constexpr int blockSpacing = 8;
 constexpr int buttonSpacing = 8;
-constexpr int valueWidth = 40;
-constexpr int valueSize = 13;
-
-/// How a setting's value reads: "10s" beside the slider, "10 seconds" for who hears it.
-struct ValueTexts
-{
-    QString shown;
-    QString spoken;
-};
-
-struct Setting
-{
-    QString objectName;
-    QString title;
-    int minimum = 0;
-    int maximum = 0;
-    int step = 1;
-    /// What is stored, cut to a whole number.
-    int value = 0;
-    ValueTexts (*texts)(int value) = nullptr;
-    /// The user has moved the slider.
-    std::function<void(int value)> store;
-};
 
 template <typename Stored>
 int wholeNumber(Stored stored)
 {
     using Limits = std::numeric_limits<int>;
     return static_cast<int>(std::clamp<Stored>(stored, Limits::min(), Limits::max()));
-}
-
-/// Title, slider and value of one setting.
-QLayout* makeBlock(const Setting& setting)
-{
-    auto* title = new QLabel(setting.title);
-    title->setFont(Theme::font(title->font(), TextStyle::subheadline));
-    auto* slider = new SteppedSlider(setting.minimum, setting.maximum, setting.step);
-    slider->setObjectName(setting.objectName);
-    slider->setAccessibleName(setting.title);
-    title->setBuddy(slider);
-    auto* shown = new SecondaryLabel(valueSize);
-    shown->setObjectName(setting.objectName + "Value"_L1);
-    shown->setAlignment(Qt::AlignCenter);
-    const int widest = std::max(setting.maximum, setting.value);
-    const int needed = shown->fontMetrics().horizontalAdvance(setting.texts(widest).shown);
-    shown->setFixedWidth(std::max(valueWidth, needed));
-
-    const auto show = [slider, shown, texts = setting.texts](int value) {
-        shown->setText(texts(value).shown);
-        slider->setAccessibleDescription(texts(value).spoken);
-    };
-    slider->setValue(setting.value);
-    show(setting.value);
-    QObject::connect(slider, &QSlider::valueChanged, slider, [show, store = setting.store](int value) {
-        store(value);
-        show(value);
-    });
-
-    auto* row = new QHBoxLayout;
-    row->addWidget(slider);
-    row->addWidget(shown);
-    auto* block = new QVBoxLayout;
-    block->setSpacing(blockSpacing);
-    block->addWidget(title);
-    block->addLayout(row);
-    return block;
 }
 
 } // namespace
@@ -137,7 +73,7 @@ QLayout* SettingsView::makeScanInterval()
 {
     constexpr int minimum = 5;
     constexpr int maximum = 30;
-    return makeBlock(
+    return makeSliderBlock(
         {.objectName = u"scanInterval"_s,
          .title = tr("Scan Interval"),
          .minimum = minimum,
@@ -156,7 +92,7 @@ QLayout* SettingsView::makeHistoryPoints()
 {
     constexpr int minimum = 10;
     constexpr int maximum = 50;
-    return makeBlock(
+    return makeSliderBlock(
         {.objectName = u"historyLimit"_s,
          .title = tr("History Points"),
          .minimum = minimum,

@@ -3,6 +3,7 @@
 #include "model/SettingKeys.h"
 #include "ui/ViewDriver.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
@@ -67,7 +68,7 @@ TEST_F(SettingsViewTest, StoresEveryMovementAtOnceAndUndoesNone)
     EXPECT_EQ(interval(), 30.0);
 }
 
-TEST_F(SettingsViewTest, DragsTheHistorySliderInStepsOfFive)
+TEST_F(SettingsViewTest, MovesTheHistorySliderInStepsOfFive)
 {
     open();
     auto& slider = child<QSlider>(u"historyLimit"_s);
@@ -77,7 +78,14 @@ TEST_F(SettingsViewTest, DragsTheHistorySliderInStepsOfFive)
         slider.setSliderPosition(position); // as a mouse does
         stored.insert(limit().value_or(20));
     }
+    slider.setSliderDown(false);
     EXPECT_EQ(stored, (QSet<qint64>{10, 15, 20, 25, 30, 35, 40, 45, 50}));
+    QTest::keyClick(&slider, Qt::Key_Left);
+    EXPECT_EQ(limit(), 45);
+    QAccessible::queryAccessibleInterface(&slider)->valueInterface()->setCurrentValue(23);
+    EXPECT_EQ(slider.value(), 25);
+    EXPECT_EQ(limit(), 25);
+    EXPECT_EQ(shown(u"historyLimit"_s), u"25"_s);
 }
 
 TEST_F(SettingsViewTest, RestartsTheTimerOnSaveAlone)
