@@ -809,6 +809,9 @@ Freie Software unter der MIT-Lizenz.</translation>
         <source>Open App</source>
         <translation>App öffnen</translation>
     </message>
+</context>
+<context>
+    <name>aerolith::ToolsButton</name>
     <message>
         <source>Tools</source>
         <translation>Extras</translation>

@@ -809,6 +809,9 @@ Software libre con licencia MIT.</translation>
         <source>Open App</source>
         <translation>Abrir la aplicación</translation>
     </message>
+</context>
+<context>
+    <name>aerolith::ToolsButton</name>
     <message>
         <source>Tools</source>
         <translation>Herramientas</translation>

@@ -809,6 +809,9 @@ Logiciel libre sous licence MIT.</translation>
         <source>Open App</source>
         <translation>Ouvrir l’application</translation>
     </message>
+</context>
+<context>
+    <name>aerolith::ToolsButton</name>
     <message>
         <source>Tools</source>
         <translation>Outils</translation>

@@ -803,6 +803,9 @@ MIT ライセンスのフリーソフトウェアです。</translation>
         <source>Open App</source>
         <translation>アプリを開く</translation>
     </message>
+</context>
+<context>
+    <name>aerolith::ToolsButton</name>
     <message>
         <source>Tools</source>
         <translation>ツール</translation>

@@ -803,6 +803,9 @@ Free software under the MIT License.</source>
         <source>Open App</source>
         <translation>打开应用</translation>
     </message>
+</context>
+<context>
+    <name>aerolith::ToolsButton</name>
     <message>
         <source>Tools</source>
         <translation>工具</translation>

@@ -2,17 +2,15 @@
 
 #include "ui/common/Divider.h"
 #include "ui/common/SwitchHeader.h"
-#include "ui/common/SymbolButton.h"
 #include "ui/common/Theme.h"
+#include "ui/menubar/ToolsButton.h"
 #include "ui/menubar/WaitState.h"
 
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace aerolith {
@@ -26,8 +24,6 @@ constexpr int spinnerDistance = 20;
 constexpr int bottomSpacing = 16;
 constexpr int textSize = 13;
 constexpr int largestListHeight = 300;
-constexpr int toolsWidth = 80;
-constexpr QSize toolsSymbol{14, 14};
 
 QLabel* makeTitle()
 {
@@ -92,7 +88,7 @@ StatusMenuView::StatusMenuView(WiFiScanner& scanner, StatusMenuController& statu
         }
     });
     connect(&m_statusMenu, &StatusMenuController::isWiFiEnabledChanged, this, &StatusMenuView::followSwitch);
-    connect(&m_scanner, &WiFiScanner::networksChanged, this, [this] { m_publish.request(); });
+    connect(&m_scanner, &WiFiScanner::networksChanged, &m_publish, &OncePerTurn::request);
     connect(&m_scanner, &WiFiScanner::statusChanged, this, &StatusMenuView::showStatus);
     // On a later turn: it shows other windows, and returns only when they are gone.
     connect(m_list, &MenuNetworkList::connectRequested, this, &StatusMenuView::join, Qt::QueuedConnection);
@@ -115,34 +111,17 @@ QWidget* StatusMenuView::makeBottomBar()
     openApp->setAutoDefault(false);
     connect(openApp, &QPushButton::clicked, this, [this] { m_surroundings.openMainWindow(); });
 
+    auto* tools = new ToolsButton(m_surroundings.workspace, m_surroundings.log);
+    tools->setObjectName(u"tools"_s);
+
     auto* bar = new QWidget;
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(bottomPadding);
     row->setSpacing(bottomSpacing);
     row->addWidget(openApp);
     row->addStretch();
-    row->addWidget(makeToolsMenu());
+    row->addWidget(tools);
     return bar;
-}
-
-QWidget* StatusMenuView::makeToolsMenu()
-{
-    auto* tools = new SymbolButton(u"wrench.and.screwdriver"_s, tr("Tools"));
-    tools->setObjectName(u"tools"_s);
-    tools->setTitle(tr("Tools"));
-    tools->setIconSize(toolsSymbol);
-    tools->setFixedWidth(std::max(toolsWidth, tools->sizeHint().width()));
-    tools->setPopupMode(QToolButton::InstantPopup);
-    auto* menu = new QMenu(tools);
-    menu->setObjectName(u"toolsMenu"_s);
-    menu->setToolTipsVisible(true);
-    menu->addAction(tr("Wi-Fi Settings..."), this,
-                    [this] { report(m_surroundings.workspace.openSettings(SettingsPage::wifi)); });
-    m_diagnostics = menu->addAction(tr("Wireless Diagnostics..."), this,
-                                    [this] { report(m_surroundings.workspace.openDiagnostics()); });
-    connect(menu, &QMenu::aboutToShow, this, &StatusMenuView::checkDiagnostics);
-    tools->setMenu(menu);
-    return tools;
 }
 
 void StatusMenuView::showEvent(QShowEvent* event)
@@ -211,21 +190,6 @@ void StatusMenuView::join(const WiFiNetwork& network)
     }();
     if (found) {
         m_connections.connectTo(*found);
-    }
-}
-
-/// What is missing may have been installed since.
-void StatusMenuView::checkDiagnostics()
-{
-    const Failure obstacle = m_surroundings.workspace.diagnosticsObstacle();
-    m_diagnostics->setEnabled(!obstacle);
-    m_diagnostics->setToolTip(obstacle ? obstacle->description : QString());
-}
-
-void StatusMenuView::report(const Failure& failure)
-{
-    if (failure) {
-        m_surroundings.log.line(failure->description);
     }
 }
 

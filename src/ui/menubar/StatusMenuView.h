@@ -6,8 +6,6 @@
 #include "ui/menubar/MenuNetworkList.h"
 #include "ui/menubar/StatusMenuController.h"
 
-class QAction;
-
 namespace aerolith {
 
 /// What is in the popover: the radio's switch, the list of networks to join, and a bar with ways into the
@@ -28,15 +26,12 @@ protected:
 private:
     [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QWidget* makeBottomBar();
-    [[nodiscard]] QWidget* makeToolsMenu();
 
     void showNetworks();
     void showStatus();
     void followSwitch();
     void toggleWiFi(bool enabled);
     void join(const WiFiNetwork& network);
-    void checkDiagnostics();
-    void report(const Failure& failure);
 
     WiFiScanner& m_scanner;
     StatusMenuController& m_statusMenu;
@@ -48,7 +43,6 @@ private:
     bool m_isJoining = false;
     Spinner* m_spinner;
     Switch* m_power;
-    QAction* m_diagnostics = nullptr;
     MenuNetworkList* m_list;
     OncePerTurn m_publish;
 };
