@@ -41,17 +41,15 @@ NetworkInfoDialog::NetworkInfoDialog(std::shared_ptr<const CWInterface> interfac
 void NetworkInfoDialog::readInterface()
 {
     const auto facts = interfaceFacts(InterfaceSnapshot::read(m_interface.get(), m_addresses));
-    // Rows that tell the same stay: the user may be copying from one.
-    if (facts == m_facts) {
-        return;
+    while (m_rows.size() < facts.size()) {
+        m_rows.append(new InfoRow);
+        m_box->rows().addWidget(m_rows.last());
     }
-    m_facts = facts;
-    while (const auto* row = m_box->rows().takeAt(0)) {
-        delete row->widget();
-        delete row;
-    }
-    for (const InterfaceFact& fact : facts) {
-        m_box->rows().addWidget(new InfoRow(fact.label, fact.value));
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        m_rows[i]->setVisible(i < facts.size());
+        if (i < facts.size()) {
+            m_rows[i]->showFact(facts[i]);
+        }
     }
 }
 

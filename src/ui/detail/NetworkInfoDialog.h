@@ -5,12 +5,14 @@
 #include "platform/Log.h"
 #include "platform/Workspace.h"
 #include "ui/common/Sheet.h"
-#include "ui/detail/InterfaceSnapshot.h"
+
+#include <QList>
 
 #include <memory>
 
 namespace aerolith {
 
+class InfoRow;
 class TitledBox;
 
 /// The sheet that describes the machine's Wi-Fi interface.
@@ -35,7 +37,7 @@ private:
     Workspace& m_workspace;
     Log& m_log;
     TitledBox* m_box;
-    QList<InterfaceFact> m_facts;
+    QList<InfoRow*> m_rows;
 };
 
 } // namespace aerolith
