@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -18,10 +19,27 @@ constexpr int itemSpacing = 12;
 constexpr int sortMenuWidth = 180;
 constexpr int sortSymbolSize = 14;
 
+/// Without the keyboard's focus it leaves the wheel alone: who scrolls past it wants no other order.
+class SortMenu : public QComboBox
+{
+public:
+    SortMenu() { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
+
 } // namespace
 
 SidebarStatusBar::SidebarStatusBar(WiFiScanner& scanner, FileExporter& exporter, QWidget* parent)
-    : StatusBarFrame(parent), m_scanner(scanner), m_exporter(exporter), m_sortMenu(new QComboBox)
+    : StatusBarFrame(parent), m_scanner(scanner), m_exporter(exporter), m_sortMenu(new SortMenu)
 {
     auto* exportButton = makeButton(u"exportList"_s, u"square.and.arrow.up"_s, tr("Export network list"));
     auto* clearButton = makeButton(u"clearList"_s, u"trash"_s, tr("Clear network list"));

@@ -3,7 +3,9 @@
 #include "ui/main/WindowDriver.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +36,22 @@ TEST_F(MainWindowTest, OpensARowsMenuWithoutSelectingIt)
     ASSERT_NE(menu, nullptr);
     EXPECT_TRUE(list.visualRect(current).contains(list.viewport()->mapFromGlobal(menu->pos())));
     EXPECT_EQ(engine.selection.selectedBSSID(), u"a"_s);
+}
+
+TEST_F(MainWindowTest, LeavesTheOrderAloneWhenTheWheelPassesItsMenu)
+{
+    auto& menu = child<QComboBox>(u"sortMenu"_s);
+    const auto turnWheel = [&menu] {
+        QWheelEvent turn({5, 5}, menu.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                         false);
+        QCoreApplication::sendEvent(&menu, &turn);
+    };
+    turnWheel();
+    EXPECT_EQ(engine.scanner->sortOption(), SortOption::signal);
+    EXPECT_EQ(menu.focusPolicy(), Qt::StrongFocus) << "nor does the wheel take the focus";
+    menu.setFocus();
+    turnWheel();
+    EXPECT_EQ(engine.scanner->sortOption(), SortOption::ssid);
 }
 
 TEST_F(MainWindowTest, BringsTheSidebarBackAsWideAsItWas)
