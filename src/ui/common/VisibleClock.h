@@ -33,11 +33,11 @@ public:
     /// How long the widget has been seen since it was shown.
     [[nodiscard]] Seconds time() const;
 
-    [[nodiscard]] bool isRunning() const { return m_running.isValid(); }
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] bool isRunning() const { return m_running.isValid(); }
+
     void widgetShown(bool anew);
     void update();
     void stop();

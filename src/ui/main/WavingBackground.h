@@ -20,9 +20,6 @@ public:
     /// The scanner outlives the widget.
     explicit WavingBackground(WiFiScanner& scanner);
 
-    /// Whether it moves at the moment: only while it can be seen.
-    [[nodiscard]] bool isAnimating() const { return m_clock.isRunning(); }
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

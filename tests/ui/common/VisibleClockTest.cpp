@@ -1,5 +1,7 @@
 #include "ui/common/VisibleClock.h"
 
+#include <QApplication>
+#include <QProxyStyle>
 #include <QTest>
 #include <QThread>
 #include <QWidget>
@@ -24,7 +26,80 @@ protected:
     }
 };
 
+/// The style of a desktop that asks for no animations.
+class StillStyle : public QProxyStyle
+{
+public:
+    StillStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+/// The clock of a widget in a window.
+class VisibleClockTest : public testing::Test
+{
+protected:
+    VisibleClockTest()
+    {
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    /// Whether time goes on, or anything is done at all.
+    bool isRunning()
+    {
+        QCoreApplication::processEvents();
+        frames = 0;
+        const Seconds before = clock.time();
+        QTest::qWait(20);
+        return clock.time() > before || frames > 0;
+    }
+
+    QWidget window;
+    QWidget widget{&window};
+    int frames = 0;
+    VisibleClock clock{widget, [this] { ++frames; }, 1ms};
+};
+
 } // namespace
+
+TEST_F(VisibleClockTest, RunsOnlyWhileTheWidgetCanBeSeen)
+{
+    EXPECT_TRUE(isRunning());
+    widget.hide();
+    EXPECT_FALSE(isRunning());
+    widget.show();
+    EXPECT_TRUE(isRunning());
+
+    window.hide();
+    EXPECT_FALSE(isRunning());
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isRunning(); }));
+    widget.hide();
+    window.hide();
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_FALSE(isRunning()) << "hidden in a window that comes back";
+    widget.show();
+
+    window.showMinimized();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isRunning(); }));
+    window.showNormal();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isRunning(); }));
+}
+
+TEST_F(VisibleClockTest, StandsStillWhereTheDesktopWantsNoAnimations)
+{
+    StillStyle still;
+    widget.setStyle(&still);
+    EXPECT_FALSE(isRunning());
+    widget.setStyle(QApplication::style());
+    EXPECT_TRUE(isRunning());
+}
 
 TEST(VisibleClock, LeavesTimeToOthersWhereFramesTakeLong)
 {

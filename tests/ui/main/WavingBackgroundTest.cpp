@@ -3,12 +3,10 @@
 #include "ui/ViewDriver.h"
 #include "ui/main/CircleLine.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QLineF>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -18,19 +16,6 @@ namespace aerolith {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The style of a desktop that asks for no animations.
-class StillStyle : public QProxyStyle
-{
-public:
-    StillStyle() : QProxyStyle(u"Fusion"_s) {}
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override
-    {
-        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
 
 /// Notes which part of a widget is painted.
 class PaintRecorder : public QObject
@@ -121,33 +106,6 @@ TEST_F(WavingBackgroundTest, PaintsTheSymbolAnewWhereItsMessageMoves)
     message->move(message->pos() + QPoint(0, 50));
     QCoreApplication::processEvents();
     EXPECT_TRUE(QRegion(symbol).subtracted(recorder.painted).isEmpty());
-}
-
-TEST_F(WavingBackgroundTest, MovesOnlyWhileItCanBeSeen)
-{
-    EXPECT_TRUE(backdrop.isAnimating());
-    backdrop.hide();
-    EXPECT_FALSE(backdrop.isAnimating());
-    backdrop.show();
-    EXPECT_TRUE(backdrop.isAnimating());
-
-    backdrop.hide();
-    window.hide();
-    window.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    EXPECT_FALSE(backdrop.isAnimating()) << "hidden in a window that comes back";
-    backdrop.show();
-
-    window.showMinimized();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !backdrop.isAnimating(); }));
-    window.showNormal();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return backdrop.isAnimating(); }));
-
-    StillStyle still;
-    backdrop.setStyle(&still);
-    EXPECT_FALSE(backdrop.isAnimating()) << "the desktop wants no animations";
-    backdrop.setStyle(QApplication::style());
-    EXPECT_TRUE(backdrop.isAnimating());
 }
 
 TEST(CircleLine, HasNoGapsAndNothingTwice)
