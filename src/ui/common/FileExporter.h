@@ -27,11 +27,10 @@ public:
     /// what is shown then.
     void save(QWidget& view, const QString& defaultName, const std::function<CSVFile()>& document);
 
+private:
     /// The desktop's own dialog for saving, where it has one.
     static void askByDialog(QWidget& view, const QString& path,
                             const std::function<void(const QString& path)>& chosen);
-
-private:
     void write(const QString& path, const CSVFile& document);
 
     Log& m_log;

@@ -10,6 +10,9 @@ namespace aerolith::Theme {
 
 namespace {
 
+/// Of secondary text over its background, where that leaves it readable.
+constexpr double secondaryOpacity = 0.65;
+
 /// As WCAG defines it for sRGB.
 double relativeLuminance(const QColor& color)
 {

@@ -26,9 +26,6 @@ namespace aerolith::Theme {
 /// Contrast that small text needs to be read, as the ratio defined by WCAG.
 inline constexpr double readableContrast = 4.5;
 
-/// Opacity of secondary text over its background, where that leaves it readable.
-inline constexpr double secondaryOpacity = 0.65;
-
 [[nodiscard]] bool isDark(const QPalette& palette);
 
 [[nodiscard]] QColor accent(const QPalette& palette);
@@ -42,8 +39,8 @@ inline constexpr double secondaryOpacity = 0.65;
 
 [[nodiscard]] QColor red(const QPalette& palette);
 
-/// The text colour at `secondaryOpacity` over `background`, or at the lowest opacity above it that is
-/// readable there; the full text colour where even that is not. Opaque.
+/// The text colour at an opacity of 65 % over `background`, or at the lowest one above it that is readable
+/// there; the full text colour where even that is not. Opaque.
 [[nodiscard]] QColor secondary(const QColor& text, const QColor& background);
 
 [[nodiscard]] QColor withOpacity(QColor color, double opacity);

@@ -24,15 +24,17 @@ struct WiFiSignalBars
     /// Bars 0 up to this one are lit.
     [[nodiscard]] int litCount() const;
 
+    /// In the middle of `frame`, device-independent pixels.
+    void paint(QPainter& painter, const QRectF& frame, const QPalette& palette) const;
+
+private:
     /// Device-independent pixels; zero without bars.
     [[nodiscard]] QSizeF size() const;
 
-    /// The bars from the left, in the middle of `frame`, device-independent pixels.
+    /// From the left.
     [[nodiscard]] QList<QRectF> bars(const QRectF& frame) const;
 
     [[nodiscard]] QColor color(bool lit, const QPalette& palette) const;
-
-    void paint(QPainter& painter, const QRectF& frame, const QPalette& palette) const;
 };
 
 } // namespace aerolith

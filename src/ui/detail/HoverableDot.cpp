@@ -20,6 +20,8 @@ struct HoverableDotTexts
     Q_DECLARE_TR_FUNCTIONS(HoverableDot)
 };
 
+constexpr double dotRadius = 3;
+constexpr double hoveredRadius = 2 * dotRadius;
 constexpr double boxDistance = 50;
 constexpr double boxPadding = 6;
 constexpr double boxRadius = 4;

@@ -16,9 +16,6 @@ namespace aerolith {
 /// reads the sample out. In the chart's coordinates, device-independent pixels.
 struct HoverableDot
 {
-    static constexpr double dotRadius = 3;
-    static constexpr double hoveredRadius = 2 * dotRadius;
-
     /// The centre of the dot.
     QPointF position;
     SignalHistory data;

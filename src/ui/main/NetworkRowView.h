@@ -20,20 +20,8 @@ struct NetworkRowView
     /// Drawn on the highlight, which the list itself draws.
     bool isSelected = false;
 
-    /// The network name as one line of plain text.
-    [[nodiscard]] QString name() const;
-
     /// "WPA2 • Ch 36 (5 GHz)".
     [[nodiscard]] QString details() const;
-
-    /// "-58 dBm".
-    [[nodiscard]] QString signal() const;
-
-    /// The name of the lock symbol.
-    [[nodiscard]] QString symbol() const;
-
-    /// Of everything in the row.
-    [[nodiscard]] double opacity() const;
 
     /// The row in words.
     [[nodiscard]] QString accessibleText() const;
@@ -44,6 +32,19 @@ struct NetworkRowView
     /// Paints within `rect`; `palette` and `font` are those of the list, and the painter's layout direction
     /// is its direction.
     void paint(QPainter& painter, const QRectF& rect, const QPalette& palette, const QFont& font) const;
+
+private:
+    /// The network name as one line of plain text.
+    [[nodiscard]] QString name() const;
+
+    /// "-58 dBm".
+    [[nodiscard]] QString signal() const;
+
+    /// The name of the lock symbol.
+    [[nodiscard]] QString symbol() const;
+
+    /// Of everything in the row.
+    [[nodiscard]] double opacity() const;
 };
 
 } // namespace aerolith

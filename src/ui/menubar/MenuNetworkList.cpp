@@ -37,7 +37,7 @@ private:
     MenuNetworkList& m_list;
 };
 
-bool isReturn(const QKeyEvent& event)
+bool isPress(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
 }
@@ -83,7 +83,7 @@ void MenuNetworkList::keyPressEvent(QKeyEvent* event)
     if (!std::exchange(m_usesKeys, true)) {
         viewport()->update();
         scrollTo(currentIndex());
-    } else if (isReturn(*event)) {
+    } else if (isPress(*event)) {
         requestConnect(currentIndex());
     } else {
         SteadyListView::keyPressEvent(event);
