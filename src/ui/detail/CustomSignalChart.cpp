@@ -16,7 +16,8 @@ namespace aerolith {
 namespace {
 
 constexpr int usualWidth = 250;
-constexpr int chartHeight = 250;
+constexpr int fullHeight = 250;
+constexpr int miniHeight = 50;
 constexpr QMarginsF focusDistance{9.5, 9.5, 9.5, 9.5};
 constexpr double focusRadius = 4;
 
@@ -35,12 +36,13 @@ CustomSignalChart::CustomSignalChart(const SignalChartParameters& parameters, QW
     , m_drawing(*this, parameters.animate)
     , m_hover([this](const QUuid& id) { repaintDot(id); }, this)
 {
-    Q_ASSERT(!parameters.showMiniVersion);
     setAccessibleRole(*this, QAccessible::Chart);
     nameForAssistance();
-    setMouseTracking(true);
-    setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    const bool isFull = !parameters.showMiniVersion;
+    setMouseTracking(isFull);
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isFull);
+    setFocusPolicy(isFull ? Qt::TabFocus : Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Expanding, isFull ? QSizePolicy::Fixed : QSizePolicy::Preferred);
 }
 
 void CustomSignalChart::showHistory(const SignalHistoryList& history)
@@ -64,12 +66,13 @@ QSize CustomSignalChart::sizeHint() const
 {
     const QMargins margins = contentsMargins();
     // The values along its edge are text.
-    return {usualWidth, margins.top() + Theme::scaledToText(chartHeight) + margins.bottom()};
+    const int height = m_parameters.showMiniVersion ? miniHeight : Theme::scaledToText(fullHeight);
+    return {usualWidth, margins.top() + height + margins.bottom()};
 }
 
 QSize CustomSignalChart::minimumSizeHint() const
 {
-    return {0, sizeHint().height()};
+    return {0, m_parameters.showMiniVersion ? 0 : sizeHint().height()};
 }
 
 void CustomSignalChart::hideEvent(QHideEvent* event)

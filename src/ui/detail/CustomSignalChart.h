@@ -11,14 +11,14 @@
 
 namespace aerolith {
 
-/// The signal history of one access point, in the full form: each sample has a dot that reads it out while
-/// the pointer rests on it, whether or not the window is active; with the keyboard's focus, the arrow keys,
-/// Home and End go from sample to sample.
+/// The signal history of one access point. In the full form each sample has a dot that reads it out while the
+/// pointer rests on it, whether or not the window is active; with the keyboard's focus, the arrow keys, Home
+/// and End go from sample to sample.
 ///
-/// The chart's rectangle is contentsRect(), 250 high. Noise beyond the scale and read-outs near an edge reach
-/// past it; a widget cannot draw outside of itself, so they have the contents margins, which whoever lays the
-/// chart out makes as wide as the empty space around it. What goes further would be drawn over other things,
-/// and ends there.
+/// The chart's rectangle is contentsRect(): 250 high in the full form, as high as it is given in the compact
+/// one. Noise beyond the scale and read-outs near an edge reach past it; a widget cannot draw outside of
+/// itself, so they have the contents margins, which whoever lays the chart out makes as wide as the empty
+/// space around it. What goes further would be drawn over other things, and ends there.
 class CustomSignalChart : public QWidget
 {
     Q_OBJECT
