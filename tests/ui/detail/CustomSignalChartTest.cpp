@@ -1,7 +1,7 @@
 #include "ui/detail/CustomSignalChart.h"
 
 #include "support/Printing.h"
-#include "ui/common/Theme.h"
+#include "ui/Colours.h"
 #include "ui/detail/SampleHistory.h"
 
 #include <QApplication>
@@ -200,6 +200,26 @@ TEST_F(CustomSignalChartTest, GoesFromSampleToSampleByKeys)
     chart->setFocus(Qt::TabFocusReason);
     QTest::keyClick(chart.get(), Qt::Key_Left);
     EXPECT_FALSE(chart->hoveredPointId().has_value());
+}
+
+TEST_F(CustomSignalChartTest, LeavesOutAllButItsSignalInTheCompactForm)
+{
+    const QColor red = Theme::red(QApplication::palette());
+    const SignalHistoryList samples = history({-50, -50, -50}, -53);
+    show(samples);
+    const QImage whole = grab().copy(margin, margin, width, 250);
+    EXPECT_EQ(whole.pixelColor(450, 200), red) << "the noise";
+    EXPECT_NE(whole.pixelColor(450, 25), whole.pixelColor(450, 30)) << "the grid";
+    EXPECT_NE(whole.copy(0, 60, 30, 60), whole.copy(450, 60, 30, 60)) << "the values";
+
+    SignalChartParameters compact = full;
+    compact.showMiniVersion = true;
+    show(samples, compact);
+    const QImage small = grab().copy(margin, margin, width, 50);
+    EXPECT_EQ(small.pixelColor(450, 25), green);
+    EXPECT_FALSE(coloursOf(small).contains(red.rgb()));
+    EXPECT_EQ(coloursOf(small.copy(0, 0, width, 22)).size(), 1) << "no dot, grid or values";
+    EXPECT_NE(small.pixelColor(450, 30), small.pixelColor(450, 48)) << "an area that fades";
 }
 
 TEST_F(CustomSignalChartTest, DrawsAnyStrength)
