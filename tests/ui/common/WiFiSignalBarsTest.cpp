@@ -34,7 +34,7 @@ TEST(WiFiSignalBars, ArePaintedSharpInTheirColours)
         image.fill(ground);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        WiFiSignalBars{.rssi = -80, .isSelected = isSelected}.paint(painter, {10, 5, 20, 15}, QPalette());
+        WiFiSignalBars{.rssi = -80, .isSelected = isSelected}.paint(painter, {10.2, 5, 20, 15}, QPalette());
         const QColor lit = isSelected ? QColor(Qt::white) : Theme::accent(QPalette());
         EXPECT_EQ(image.pixelColor(2 * 12, 2 * 12), lit);
         EXPECT_EQ(coloursOf(image.copy(0, 2 * 12, image.width(), 1)).size(), 3)
