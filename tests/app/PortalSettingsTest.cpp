@@ -102,14 +102,17 @@ protected:
     }
 
     /// As a desktop tells whether it is dark.
-    static Settings colourScheme(uint scheme)
+    static QVariant colourScheme(uint scheme)
     {
-        return {{PortalSettings::standard, {{u"color-scheme"_s, scheme}}}};
+        return QVariant::fromValue(Settings{{PortalSettings::standard, {{u"color-scheme"_s, scheme}}}});
     }
 
-    /// The program from its start to its first painting.
-    void start(FakePortal* portal = nullptr)
+    /// The program from its start to its first painting, beside a portal that answers this, if any.
+    void start(const QVariant& answer)
     {
+        if (answer.isValid()) {
+            portal.emplace(bus().address(), answer);
+        }
         settings.emplace();
         colours.emplace(*settings);
         motion.emplace(*settings);
@@ -131,6 +134,7 @@ protected:
         return theBus;
     }
 
+    std::optional<FakePortal> portal;
     std::optional<PortalSettings> settings;
     std::optional<ColourScheme> colours;
     std::optional<ReducedMotion> motion;
@@ -142,29 +146,26 @@ protected:
 TEST_F(PortalSettingsTest, ReduceMotionWhileTheProgramRuns)
 {
     const QString gnome = PortalSettings::gnome;
-    FakePortal portal(bus().address(),
-                      QVariant::fromValue(Settings{{gnome, {{u"enable-animations"_s, false}}}}));
-    start(&portal);
+    start(QVariant::fromValue(Settings{{gnome, {{u"enable-animations"_s, false}}}}));
     EXPECT_FALSE(window.moves());
-    portal.awaitQuestions(2);
+    portal->awaitQuestions(2);
 
-    portal.change(gnome, u"enable-animations"_s, true);
+    portal->change(gnome, u"enable-animations"_s, true);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.moves(); }));
-    portal.change(PortalSettings::standard, u"reduced-motion"_s, 1U);
+    portal->change(PortalSettings::standard, u"reduced-motion"_s, 1U);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
-    portal.change(gnome, u"enable-animations"_s, true);
+    portal->change(gnome, u"enable-animations"_s, true);
     QTest::qWait(50);
     EXPECT_FALSE(window.moves()) << "either of them is enough";
 }
 
 TEST_F(PortalSettingsTest, MakeTheProgramDarkFromItsFirstPicture)
 {
-    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
-    start(&portal);
+    start(colourScheme(1));
     EXPECT_TRUE(isDark());
-    portal.awaitQuestions(2);
+    portal->awaitQuestions(2);
     for (const uint scheme : {2U, 1U, 0U}) {
-        portal.change(PortalSettings::standard, u"color-scheme"_s, scheme);
+        portal->change(PortalSettings::standard, u"color-scheme"_s, scheme);
         EXPECT_TRUE(QTest::qWaitFor([&] { return isDark() == (scheme == 1); })) << scheme;
     }
 }
@@ -172,9 +173,9 @@ TEST_F(PortalSettingsTest, MakeTheProgramDarkFromItsFirstPicture)
 TEST_F(PortalSettingsTest, AreAskedForAgainWhereThePortalBeginsLate)
 {
     bus();
-    start();
+    start({});
     EXPECT_FALSE(isDark());
-    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
+    portal.emplace(bus().address(), colourScheme(1));
     EXPECT_TRUE(QTest::qWaitFor([&] { return isDark(); }));
 }
 
@@ -182,18 +183,16 @@ TEST_F(PortalSettingsTest, LeaveADarkDesktopItsOwnColours)
 {
     const QPalette own(QColor(40, 0, 0), QColor(30, 0, 0));
     QApplication::setPalette(own);
-    FakePortal portal(bus().address(), QVariant::fromValue(colourScheme(1)));
-    start(&portal);
+    start(colourScheme(1));
     EXPECT_EQ(QApplication::palette().color(QPalette::Base), own.color(QPalette::Base));
 }
 
 TEST_F(PortalSettingsTest, OutliveAnAnswerOfAnotherType)
 {
-    FakePortal portal(bus().address(), QVariantMap{{u"enable-animations"_s, false}});
-    start(&portal);
-    portal.awaitQuestions(2);
+    start(QVariantMap{{u"enable-animations"_s, false}});
+    portal->awaitQuestions(2);
     EXPECT_TRUE(window.moves());
-    portal.change(PortalSettings::gnome, u"enable-animations"_s, false);
+    portal->change(PortalSettings::gnome, u"enable-animations"_s, false);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window.moves(); }));
 }
 
