@@ -33,11 +33,12 @@ class Peer:
     row: tuple[int, int, int, int]  # the place of the first row's name: left, top, width, height; empty without one
     opener: tuple[str, int, int] | None = None  # a window and the button in it that opens the list or starts the scans
     again: tuple[int, int] | None = None  # the button that asks for the next scan
+    scans_itself: bool = False  # its scans are refused while others scan on the same interface
 
 
 PEERS = {
     "aerolith": Peer("$PROGRAM", "Aerolith", (44, 114, 150, 40)),
-    "linssid": Peer("linssid", "LinSSID", (111, 145, 98, 60), ("LinSSID", 221, 61)),
+    "linssid": Peer("linssid", "LinSSID", (111, 145, 98, 60), ("LinSSID", 221, 61), scans_itself=True),
     "wpa_gui": Peer("wpa_gui -i wlan0 -p $SUPPLICANT_SOCKETS", "Scan results", (12, 35, 100, 40), ("wpa_gui", 264, 332),
                     (315, 220)),
 }
@@ -171,6 +172,13 @@ def ask_again(peer, until):
         time.sleep(INTERVAL)
 
 
+def manage(managed):
+    """Has NetworkManager, and wpa_supplicant with it, use the interface, or leave it alone."""
+    subprocess.run(["nmcli", "device", "set", "wlan0", "managed", "yes" if managed else "no"], check=True)
+    if not managed:
+        subprocess.run(["ip", "link", "set", "wlan0", "up"], check=True)
+
+
 def measure(peer, result, screen):
     group, services, forks = Group("program"), Group("services"), Forks()
     os.sync()
@@ -194,8 +202,12 @@ def measure(peer, result, screen):
 
 
 def main(name, result, screen):
-    result = Path(result)
-    measured = measure(PEERS[name], result, screen)
+    result, peer = Path(result), PEERS[name]
+    manage(not peer.scans_itself)
+    try:
+        measured = measure(peer, result, screen)
+    finally:
+        manage(True)
     print(measured, flush=True)
     result.write_text(json.dumps(measured))
 

@@ -21,6 +21,7 @@ peer() {
     timeout -k 5 600 dbus-run-session -- "${PEER[@]}" "$1" "$out.json" /run/screen/Xvfb_screen0 >"$out.log" 2>&1
     echo 1 >/sys/fs/cgroup/program/cgroup.kill
     wait_for 30 rmdir /sys/fs/cgroup/program
+    station_is_managed
     say "$1 among $2: $(tail -n 1 "$out.log")"
 }
 
