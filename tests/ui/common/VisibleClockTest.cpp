@@ -62,7 +62,7 @@ protected:
     QWidget window;
     QWidget widget{&window};
     int frames = 0;
-    VisibleClock clock{widget, [this] { ++frames; }, 1ms};
+    VisibleClock clock{widget, [this] { ++frames; }, std::chrono::milliseconds(1)};
 };
 
 } // namespace
