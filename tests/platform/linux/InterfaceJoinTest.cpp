@@ -131,7 +131,7 @@ TEST_F(InterfaceJoinTest, aFailureKeepsNothingAndSaysWhy)
     EXPECT_EQ(join(), u"The password is not correct"_s);
     m_fake->setActivation({{40, 0}, {120, 53}}, 4);
     EXPECT_EQ(join(), u"The network is out of reach"_s);
-    m_kernel->hear(*m_network.bssid, "home", std::chrono::seconds(-1));
+    m_kernel->hear(*m_network.bssid, "home", std::chrono::minutes(-1));
     EXPECT_EQ(join(), u"The network does not let this machine in"_s);
     m_network.securityCodes.insert(static_cast<int>(CWSecurity::wpa3Personal));
     EXPECT_EQ(join(), u"The network does not let this machine in: the password is probably not correct"_s)
