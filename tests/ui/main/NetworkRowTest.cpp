@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
-#include <QPalette>
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
-#include <QPushButton>
 
 #include <gtest/gtest.h>
 
